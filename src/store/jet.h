@@ -1,0 +1,14 @@
+#pragma once
+// Translation of the Jet dialect the program writes into SQLite, and the Jet functions
+// the translated statements call.
+
+#include <QString>
+
+struct sqlite3;
+
+// Turns one Jet statement into SQLite text: #mm/dd/yyyy# dates, LIKE wildcards, TOP n,
+// LEFT/MID/LEN, quoted numbers with a decimal comma, ALTER TABLE ... BYTE, the column "limit".
+QString TlumaczJet(const QString& jet);
+
+// Registers MONTH, YEAR, DAY, DATEPART, MID, LEN and the exact SUM on a connection.
+void ZarejestrujFunkcjeJet(sqlite3* db);

@@ -1,0 +1,3 @@
+#include "store/session.h"
+
+Session sesja;

@@ -1,0 +1,107 @@
+#pragma once
+// The session: every value that screens hand to each other. Screens take no parameters: a
+// caller sets these and shows the next screen modally; the screen writes its result back here.
+
+#include <QDate>
+#include <QString>
+
+struct KontoRekord {
+  qint64 id = 0;
+  QString nazwa;
+  int rodzaj = 0;  // 1 cash, 2 bank, 3 credit cards, 4 deposits, 5 loans, 6 other
+  double limit = 0;
+  double saldo = 0;
+  QDate datautworzenia;
+};
+
+struct KategoriaRekord {
+  QString identyfikator;  // empty: none chosen (or a new category for the editor)
+  QString nazwa;
+  QString nadkategoria;   // the parent's key: an identifier or "Root"
+  int rodzaj = 0;         // 1 income, 2 expense
+};
+
+struct KontrahentRekord {
+  qint64 id = 0;  // 0: none
+  QString skrocona;
+};
+
+struct TransakcjaRekord {
+  qint64 id = 0;  // 0: a new entry
+  int rodzaj = 0;
+};
+
+// The setup row in memory.
+struct Ustawienia {
+  QString tloaktywne, napisyaktywne, przyciskiaktywne, etykietyaktywne, napisyetykietaktywne,
+      listajeden, listadwa, tlonieaktywne, napisynieaktywne;
+  QString haslo;
+  QString imieniny;  // today's names for the date line
+  int pubWykres = 0;  // chart mode of the main window, not stored
+  QString notatnik;
+  QString userid;
+  QString hasloserwisu;
+};
+
+// The time filter in force.
+struct FiltrCzasowyRekord {
+  int rodzaj = 2;  // 0 all, 1 day, 2 week, 3 month, 4 quarter, 5 year, 6 range
+  QDate pozycja;   // working date
+  QDate od;        // first day of a range
+  QDate do_;       // last day of a range
+};
+
+// Result of FiltrCzasowy, also handed to reports.
+struct Okres {
+  QString warunek;
+  QString warunekPrzed;
+  QString opis;
+  QString opisDlugi;
+};
+
+struct Session {
+  int pubJezyk = 1;  // 1 Polish, 2 English; fixed for the run
+  QString pubSeparator = QStringLiteral(".");
+  QString pubCzcionka = QStringLiteral("Liberation Mono");
+
+  QString pubFormatDaty_ddpmmm;
+  QString pubFormatDaty_ddpmmmpyy;
+  QString pubFormatDaty_ddlmmmlyyyy;
+  QString pubFormatDaty_ddsmmmmsyyyy;
+  QString pubFormatDaty_dd_mmm_yy;
+  QString pubFormatDaty_ddpmmmmpyy;
+  QString pubFormatDaty_ddpmmmmpyyyy;
+  int DrukowacZera = 0;
+
+  Ustawienia pubUstawienia;
+  bool pubPierwszyStart = false;
+  int pubPrzedefiniowanyKontrahent = 0;  // -1 while the counterparty browser drives an editor
+  QDate pubPrzedefiniowanaData;          // date for a new entry or transfer; null for none
+
+  int pubTryb = 2;  // 1 planned, 2 executed, 3 realising
+  TransakcjaRekord pubTransakcja;
+  int pubWierszTransakcji = 0;
+  qint64 pubTransfer = 0;
+  int pubWierszTransferu = 0;
+  QString pubFiltrTransakcji, pubTytulTransakcji;
+  QString pubFiltrTransferow, pubTytulTransferow;
+
+  FiltrCzasowyRekord pubFiltrCzasowy;
+  Okres pubOkres;
+
+  KategoriaRekord pubKategoria;
+  KontrahentRekord pubKontrahent;
+  KontoRekord pubKonto;
+
+  // Browsers as pickers.
+  int pubTrybPrzegladu = 1;  // 1 browsing, 2 picker
+  int pubSzczegoly = 0;      // 1: the details panel is open
+  int pubPozycjaX = -1, pubPozycjaY = -1;  // wanted position of a browser; -1: centred
+  QString pubWezelKont;
+  int pubWidokZrodlowy = 0;
+  bool pubEdytorOtwarty = false;
+  bool pubEdytorTransferuOtwarty = false;
+  int pubPrzegladOtwarty = 0;
+};
+
+extern Session sesja;

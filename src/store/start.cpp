@@ -1,0 +1,125 @@
+#include "store/start.h"
+
+#include <QStringList>
+
+#include "store/baza.h"
+#include "store/dzis.h"
+#include "store/session.h"
+
+namespace {
+const char* const kolumnyMasek[] = {
+    "pubFormatDaty_ddpmmm",       "pubFormatDaty_ddpmmmpyy",   "pubFormatDaty_ddlmmmlyyyy",
+    "pubFormatDaty_ddsmmmmsyyyy", "pubFormatDaty_dd_mmm_yy",   "pubFormatDaty_ddpmmmmpyy",
+    "pubFormatDaty_ddpmmmmpyyyy"};
+
+const QStringList& kolumnySetupKolorow() {
+  static const QStringList k = {
+      QStringLiteral("tloaktywne"),   QStringLiteral("napisyaktywne"),
+      QStringLiteral("przyciskiaktywne"), QStringLiteral("etykietyaktywne"),
+      QStringLiteral("napisyetykietaktywne"), QStringLiteral("listajeden"),
+      QStringLiteral("listadwa"),     QStringLiteral("tlonieaktywne"),
+      QStringLiteral("napisynieaktywne")};
+  return k;
+}
+
+void ustawKolory(Ustawienia& u, const QStringList& k) {
+  QString* pola[] = {&u.tloaktywne,     &u.napisyaktywne, &u.przyciskiaktywne,
+                     &u.etykietyaktywne, &u.napisyetykietaktywne, &u.listajeden,
+                     &u.listadwa,       &u.tlonieaktywne, &u.napisynieaktywne};
+  for (int i = 0; i < 9; ++i) *pola[i] = k.value(i);
+}
+}  // namespace
+
+const QStringList& DomyslneKolory() {
+  static const QStringList k = {
+      QStringLiteral("12303359"), QStringLiteral("986895"),   QStringLiteral("16777139"),
+      QStringLiteral("8454143"),  QStringLiteral("4194304"),  QStringLiteral("16777215"),
+      QStringLiteral("10812380"), QStringLiteral("15724527"), QStringLiteral("986895")};
+  return k;
+}
+
+bool AktualizujBaze() {
+  if (!OtworzBaze()) return false;
+  Baza& b = pubBaza();
+  const Rekordy stara = b.Czytaj(QStringLiteral("SELECT * FROM wersjabazy"));
+  if (!stara.Ok()) return false;
+  if (stara.LiczbaPol() == 2) {
+    const bool polski = sesja.pubJezyk == 1;
+    const QStringList wartosci = {
+        QStringLiteral("dd-mmm"),
+        QStringLiteral("dd-mmm-yy"),
+        QStringLiteral("dd/mmm/yyyy"),
+        polski ? QStringLiteral("dd mmmm yyyy") : QStringLiteral("mmmm dd yyyy"),
+        QStringLiteral("dd_mmm_yy"),
+        polski ? QStringLiteral("dd-mmmm-yy") : QStringLiteral("mmmm-dd-yy"),
+        polski ? QStringLiteral("dd-mmmm-yyyy") : QStringLiteral("mm-dd-yyyy")};
+    const bool ok = b.Transakcja([&] {
+      for (const char* k : kolumnyMasek)
+        if (!b.Wykonaj(QStringLiteral("ALTER TABLE wersjabazy ADD COLUMN %1 TEXT(25)")
+                           .arg(QLatin1String(k))))
+          return false;
+      if (!b.Wykonaj(QStringLiteral("ALTER TABLE wersjabazy ADD COLUMN DrukowacZera BYTE")))
+        return false;
+      QStringList set;
+      for (int i = 0; i < 7; ++i)
+        set << QStringLiteral("%1=%2").arg(QLatin1String(kolumnyMasek[i]), SqlTekst(wartosci[i]));
+      set << QStringLiteral("DrukowacZera='1'");
+      return bool(b.Wykonaj(QStringLiteral("UPDATE wersjabazy SET ") + set.join(QStringLiteral(", "))));
+    });
+    if (!ok) return false;
+  }
+  const Rekordy rs = b.Czytaj(QStringLiteral(
+      "SELECT pubFormatDaty_ddpmmm, pubFormatDaty_ddpmmmpyy, pubFormatDaty_ddlmmmlyyyy, "
+      "pubFormatDaty_ddsmmmmsyyyy, pubFormatDaty_dd_mmm_yy, pubFormatDaty_ddpmmmmpyy, "
+      "pubFormatDaty_ddpmmmmpyyyy, DrukowacZera FROM wersjabazy"));
+  if (!rs.Ok()) return false;
+  QString* maski[] = {&sesja.pubFormatDaty_ddpmmm,       &sesja.pubFormatDaty_ddpmmmpyy,
+                      &sesja.pubFormatDaty_ddlmmmlyyyy,  &sesja.pubFormatDaty_ddsmmmmsyyyy,
+                      &sesja.pubFormatDaty_dd_mmm_yy,    &sesja.pubFormatDaty_ddpmmmmpyy,
+                      &sesja.pubFormatDaty_ddpmmmmpyyyy};
+  for (int i = 0; i < 7; ++i) *maski[i] = rs.Tekst(QLatin1String(kolumnyMasek[i]));
+  sesja.DrukowacZera = rs.Tekst(QStringLiteral("DrukowacZera")).toInt();
+  return true;
+}
+
+bool CzyPustaBaza() {
+  for (const char* tabela : {"kategorie", "konta", "kontrahent"}) {
+    const Rekordy rs = pubBaza().Czytaj(
+        QStringLiteral("SELECT COUNT(*) AS ile FROM %1").arg(QLatin1String(tabela)));
+    if (PoleRekordu(rs, QStringLiteral("ile")) > 0) return false;
+  }
+  return true;
+}
+
+void WczytajSetup() {
+  Ustawienia u;
+  ustawKolory(u, DomyslneKolory());
+  OtworzBaze();
+  const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT * FROM setup"));
+  if (rs.Ok() && rs.Eof()) {
+    QStringList wartosci;
+    for (const QString& k : DomyslneKolory()) wartosci << SqlTekst(k);
+    pubBaza().Wykonaj(QStringLiteral("INSERT INTO setup (") + kolumnySetupKolorow().join(QLatin1Char(',')) +
+                      QStringLiteral(",autostartprzypominacz) VALUES (") +
+                      wartosci.join(QLatin1Char(',')) + QStringLiteral(",'1')"));
+  } else if (!rs.Eof()) {
+    QStringList k;
+    for (const QString& kolumna : kolumnySetupKolorow()) k << rs.Tekst(kolumna);
+    ustawKolory(u, k);
+    u.haslo = rs.Tekst(QStringLiteral("haslo"));
+    u.notatnik = rs.Tekst(QStringLiteral("notatnik"));
+    u.userid = rs.Tekst(QStringLiteral("userid"));
+    u.hasloserwisu = rs.Tekst(QStringLiteral("hasloserwisu"));
+  }
+  u.pubWykres = 0;
+  u.imieniny = sesja.pubUstawienia.imieniny;
+  sesja.pubUstawienia = u;
+}
+
+QString ImionaDnia() {
+  const QDate d = Dzis();
+  const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT imiona FROM imieniny WHERE dzien=%1 AND miesiac=%2")
+                                          .arg(d.day())
+                                          .arg(d.month()));
+  return rs.Tekst(QStringLiteral("imiona"));
+}

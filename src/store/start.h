@@ -1,0 +1,17 @@
+#pragma once
+// Start-up steps that touch the store: the upgrade of wersjabazy, the setup row, the empty-store
+// test, today's name days.
+
+#include <QString>
+
+// Adds the eight mask columns to a two-column wersjabazy (with the masks of the edition in
+// force) and reads the masks into the session. False when the store can't be read.
+bool AktualizujBaze();
+// True when there is no category, no account and no counterparty.
+bool CzyPustaBaza();
+// Reads the setup row into the session; inserts the default row when there is none.
+void WczytajSetup();
+// The names of today's name day ("" when the table has no row for today).
+QString ImionaDnia();
+// Default colours of the nine theme fields, in setup's column order.
+const QStringList& DomyslneKolory();

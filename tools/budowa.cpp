@@ -7,34 +7,9 @@
 #include <QFileInfo>
 #include <QTextStream>
 
-#include "store/baza.h"
+#include "surowa.h"
 
 namespace {
-
-// A statement of our own, on a raw connection: the builder writes SQLite, not Jet.
-bool exec(sqlite3* db, const QString& sql, QString* blad) {
-  char* err = nullptr;
-  if (sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &err) == SQLITE_OK) return true;
-  if (blad) *blad = QString::fromUtf8(err ? err : "unknown error");
-  sqlite3_free(err);
-  return false;
-}
-
-sqlite3* otworz(const QString& plik, bool utworz, QString* blad) {
-  sqlite3* db = nullptr;
-  const int flagi = SQLITE_OPEN_READWRITE | (utworz ? SQLITE_OPEN_CREATE : 0);
-  if (sqlite3_open_v2(plik.toUtf8().constData(), &db, flagi, nullptr) != SQLITE_OK) {
-    if (blad) *blad = QString::fromUtf8(sqlite3_errmsg(db));
-    sqlite3_close(db);
-    return nullptr;
-  }
-  sqlite3_key(db, KluczBazy, int(strlen(KluczBazy)));
-  if (!exec(db, QStringLiteral("SELECT count(*) FROM sqlite_master"), blad)) {
-    sqlite3_close(db);
-    return nullptr;
-  }
-  return db;
-}
 
 // Rows of a tab-separated data file; "#" starts a comment line. In texts, "\n" stands for a line
 // break (stored as CR LF, as the messages expect) and "\t" for a tab.
@@ -52,13 +27,15 @@ QList<QStringList> wiersze(const QString& plik, QString* blad) {
     if (linia.trimmed().isEmpty() || linia.startsWith(QLatin1Char('#'))) continue;
     QStringList pola = linia.split(QLatin1Char('\t'));
     for (QString& p : pola)
-      p.replace(QStringLiteral("\\n"), QStringLiteral("\r\n")).replace(QStringLiteral("\\t"), QStringLiteral("\t"));
+      p.replace(QStringLiteral("\\n"), QStringLiteral("\r\n"))
+          .replace(QStringLiteral("\\t"), QStringLiteral("\t"));
     wynik << pola;
   }
   return wynik;
 }
 
-bool wstaw(sqlite3* db, const QString& sql, const QList<QStringList>& dane, int kolumny, QString* blad) {
+bool wstaw(sqlite3* db, const QString& sql, const QList<QStringList>& dane, int kolumny,
+           QString* blad) {
   sqlite3_stmt* st = nullptr;
   if (sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &st, nullptr) != SQLITE_OK) {
     if (blad) *blad = QString::fromUtf8(sqlite3_errmsg(db));
@@ -71,7 +48,8 @@ bool wstaw(sqlite3* db, const QString& sql, const QList<QStringList>& dane, int 
       sqlite3_bind_text(st, i + 1, v.constData(), int(v.size()), SQLITE_TRANSIENT);
     }
     if (sqlite3_step(st) != SQLITE_DONE) {
-      if (blad) *blad = QStringLiteral("%1: %2").arg(w.value(0), QString::fromUtf8(sqlite3_errmsg(db)));
+      if (blad)
+        *blad = QStringLiteral("%1: %2").arg(w.value(0), QString::fromUtf8(sqlite3_errmsg(db)));
       sqlite3_finalize(st);
       return false;
     }
@@ -82,17 +60,24 @@ bool wstaw(sqlite3* db, const QString& sql, const QList<QStringList>& dane, int 
 
 // The language table (every data/jezyki/*.tsv), the name days and the wizard's category sets.
 bool zaladujDostarczone(sqlite3* db, const QString& folderData, QString* blad) {
-  if (!exec(db, QStringLiteral("DELETE FROM jezyki; DELETE FROM imieniny; DELETE FROM kreatorkategorie;"), blad))
+  if (!WykonajSurowo(
+          db,
+          QStringLiteral("DELETE FROM jezyki; DELETE FROM imieniny; DELETE FROM kreatorkategorie;"),
+          blad))
     return false;
   QDir jezyki(QDir(folderData).filePath(QStringLiteral("jezyki")));
-  for (const QString& nazwa : jezyki.entryList({QStringLiteral("*.tsv")}, QDir::Files, QDir::Name)) {
+  for (const QString& nazwa :
+       jezyki.entryList({QStringLiteral("*.tsv")}, QDir::Files, QDir::Name)) {
     const auto dane = wiersze(jezyki.filePath(nazwa), blad);
     for (const QStringList& w : dane)
       if (w.size() != 3) {
-        if (blad) *blad = QStringLiteral("%1: row %2 has %3 fields").arg(nazwa, w.value(0)).arg(w.size());
+        if (blad)
+          *blad = QStringLiteral("%1: row %2 has %3 fields").arg(nazwa, w.value(0)).arg(w.size());
         return false;
       }
-    if (!wstaw(db, QStringLiteral("INSERT INTO jezyki (kontrolka, polski, angielski) VALUES (?,?,?)"), dane, 3, blad)) {
+    if (!wstaw(db,
+               QStringLiteral("INSERT INTO jezyki (kontrolka, polski, angielski) VALUES (?,?,?)"),
+               dane, 3, blad)) {
       if (blad) *blad = nazwa + QStringLiteral(": ") + *blad;
       return false;
     }
@@ -105,7 +90,8 @@ bool zaladujDostarczone(sqlite3* db, const QString& folderData, QString* blad) {
   const QString kreator = QDir(folderData).filePath(QStringLiteral("kreatorkategorie.tsv"));
   if (QFile::exists(kreator) &&
       !wstaw(db,
-             QStringLiteral("INSERT INTO kreatorkategorie (typ, identyfikator, kategoria, polski, angielski, opis) "
+             QStringLiteral("INSERT INTO kreatorkategorie (typ, identyfikator, kategoria, polski, "
+                            "angielski, opis) "
                             "VALUES (?,?,?,?,?,?)"),
              wiersze(kreator, blad), 6, blad))
     return false;
@@ -125,10 +111,11 @@ bool ZbudujBaze(const QString& folderData, const QString& plik, QString* blad) {
   const QString tymczasowy = plik + QStringLiteral(".new");
   QFile::remove(tymczasowy);
   QDir().mkpath(QFileInfo(plik).absolutePath());
-  sqlite3* db = otworz(tymczasowy, true, blad);
+  sqlite3* db = OtworzSurowo(tymczasowy, true, blad);
   if (!db) return false;
-  bool ok = exec(db, QStringLiteral("BEGIN"), blad) && exec(db, sql, blad) &&
-            zaladujDostarczone(db, folderData, blad) && exec(db, QStringLiteral("COMMIT"), blad);
+  bool ok = WykonajSurowo(db, QStringLiteral("BEGIN"), blad) && WykonajSurowo(db, sql, blad) &&
+            zaladujDostarczone(db, folderData, blad) &&
+            WykonajSurowo(db, QStringLiteral("COMMIT"), blad);
   sqlite3_close(db);
   if (!ok) {
     QFile::remove(tymczasowy);
@@ -139,16 +126,72 @@ bool ZbudujBaze(const QString& folderData, const QString& plik, QString* blad) {
 }
 
 bool OdswiezDostarczone(const QString& folderData, const QString& plik, QString* blad) {
-  sqlite3* db = otworz(plik, false, blad);
+  sqlite3* db = OtworzSurowo(plik, false, blad);
   if (!db) return false;
-  const bool ok = exec(db, QStringLiteral("BEGIN"), blad) && zaladujDostarczone(db, folderData, blad) &&
-                  exec(db, QStringLiteral("COMMIT"), blad);
-  if (!ok) exec(db, QStringLiteral("ROLLBACK"), nullptr);
+  const bool ok = WykonajSurowo(db, QStringLiteral("BEGIN"), blad) &&
+                  zaladujDostarczone(db, folderData, blad) &&
+                  WykonajSurowo(db, QStringLiteral("COMMIT"), blad);
+  if (!ok) WykonajSurowo(db, QStringLiteral("ROLLBACK"), nullptr);
   sqlite3_close(db);
   return ok;
 }
 
-bool GenerujProbke(const QString&, const RozmiarProbki&, QString* blad) {
-  if (blad) *blad = QStringLiteral("sample generator not built yet");
-  return false;
+bool MaDaneUzytkownika(const QString& plik, bool* ma, QString* blad) {
+  *ma = false;
+  sqlite3* db = OtworzSurowo(plik, false, blad);
+  if (!db) return false;
+  // Every table the program writes into on the user's behalf; a table the file lacks is empty.
+  static const char* const tabele[] = {"konta",
+                                       "kategorie",
+                                       "kontrahent",
+                                       "transakcje",
+                                       "zaplanowane",
+                                       "wewnetrzne",
+                                       "zaplanowanewewnetrzne",
+                                       "szablony",
+                                       "szablonywewnetrzne",
+                                       "setup",
+                                       "pytania"};
+  bool ok = true;
+  for (const char* t : tabele) {
+    Polecenie jest(
+        db, QStringLiteral("SELECT count(*) FROM sqlite_master WHERE type='table' AND name=?"));
+    jest.Tekst(1, QString::fromLatin1(t));
+    if (!jest.Wiersz()) {
+      ok = false;
+      if (blad) *blad = jest.Blad();
+      break;
+    }
+    if (jest.Liczba(0) == 0) continue;
+    Polecenie wiersz(db, QStringLiteral("SELECT EXISTS (SELECT 1 FROM %1)").arg(QLatin1String(t)));
+    if (!wiersz.Wiersz()) {
+      ok = false;
+      if (blad) *blad = wiersz.Blad();
+      break;
+    }
+    if (wiersz.Liczba(0) != 0) {
+      *ma = true;
+      break;
+    }
+  }
+  sqlite3_close(db);
+  return ok;
+}
+
+bool PrzygotujBaze(const QString& folderData, const QString& plik, SkutekBudowy* skutek,
+                   QString* blad) {
+  if (QFile::exists(plik)) {
+    bool ma = false;
+    if (!MaDaneUzytkownika(plik, &ma, blad)) {
+      if (blad)
+        *blad = QStringLiteral("%1 is not a readable store, left as it is: %2").arg(plik, *blad);
+      return false;
+    }
+    if (ma) {
+      if (skutek) *skutek = SkutekBudowy::Odswiezona;
+      return OdswiezDostarczone(folderData, plik, blad);
+    }
+  }
+  if (skutek) *skutek = SkutekBudowy::Zbudowana;
+  return ZbudujBaze(folderData, plik, blad);
 }

@@ -1,6 +1,94 @@
+// Zorvik: the program. The start-up steps live in the screens' library (setup/start_gui); this
+// file reads the command line, installs the message dialog and runs the event loop.
+
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cstdio>
+
+#include "budowa.h"
+#include "setup/MsgBoxModule.h"
+#include "setup/frmMsgBox.h"
+#include "setup/galeria_gui.h"
+#include "setup/obrazki_gui.h"
+#include "setup/start_gui.h"
+#include "store/baza.h"
+#include "store/dzis.h"
+#include "store/session.h"
+
+namespace {
+// The gallery runs on the store given by --dane, or on a copy of the delivered store filled
+// with a small generated sample, with a fixed today so that the pictures repeat.
+int galeria(const ParametryStartu& p) {
+  QTemporaryDir tymczasowy;
+  QString folder = p.folderDanych;
+  if (folder.isEmpty()) {
+    folder = tymczasowy.path();
+    const QString plik = QDir(folder).filePath(QStringLiteral("money.fns"));
+    const QString dostarczony =
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("dane/money.fns"));
+    QString blad;
+    const bool jest = QFile::exists(dostarczony)
+                          ? QFile::copy(dostarczony, plik)
+                          : ZbudujBaze(QStringLiteral(ZORVIK_DATA_DIR), plik, &blad);
+    QFile(plik).setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    const RozmiarProbki r = RozmiarDlaWpisow(2000);
+    if (!jest || !GenerujProbke(plik, r, &blad)) {
+      std::fprintf(stderr, "zorvik: no store for the gallery: %s\n", qPrintable(blad));
+      return 1;
+    }
+  }
+  UstawFolderDanych(folder);
+  UstawDzis(QDate(2026, 11, 22));
+  if (!OtworzBaze()) {
+    std::fprintf(stderr, "zorvik: cannot open %s\n", qPrintable(PlikBazy()));
+    return 1;
+  }
+  QStringList zapisane;
+  QString blad;
+  const bool ok = ZapiszGalerie(p.galeria, &zapisane, &blad);
+  for (const QString& plik : zapisane) std::printf("%s\n", qPrintable(plik));
+  if (!ok) std::fprintf(stderr, "zorvik: %s\n", qPrintable(blad));
+  ZamknijBaze();
+  return ok ? 0 : 1;
+}
+}  // namespace
 
 int main(int argc, char** argv) {
+  QStringList argumenty;
+  for (int i = 1; i < argc; ++i) argumenty << QString::fromLocal8Bit(argv[i]);
+  const ParametryStartu p = CzytajWierszPolecen(argumenty);
+  if (!p.blad.isEmpty()) {
+    std::fprintf(stderr,
+                 "zorvik: %s\nusage: zorvik [--edition pl|en] [--dane DIR] [--gallery DIR] [a]\n",
+                 qPrintable(p.blad));
+    return 2;
+  }
+
+  // The reminder run shows no window: it needs no window system.
+  if (p.przypomnienie) {
+    QCoreApplication app(argc, argv);
+    const Start s = Main(p);
+    ZamknijBaze();
+    return s.kodWyjscia;
+  }
+
   QApplication app(argc, argv);
-  return 0;
+  QApplication::setApplicationName(QStringLiteral("Zorvik"));
+  QApplication::setWindowIcon(IkonaProgramu());
+  HostOkienkowy host;
+  UstawHostKomunikatow(&host);
+
+  int kod = 0;
+  if (!p.galeria.isEmpty()) {
+    sesja.pubJezyk = p.jezyk ? p.jezyk : JezykSystemu();
+    kod = galeria(p);
+  } else {
+    const Start s = Main(p);
+    kod = s.wynik == WynikStartu::Dziala ? QApplication::exec() : s.kodWyjscia;
+  }
+  UstawHostKomunikatow(nullptr);
+  ZamknijBaze();
+  return kod;
 }

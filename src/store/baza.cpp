@@ -54,7 +54,8 @@ bool Baza::Otworz(const QString& plik, QString* blad) {
   // A wrong key or a file that is not a store shows at the first read.
   if (sqlite3_exec(db_, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr) != SQLITE_OK)
     return fail(QString::fromUtf8(sqlite3_errmsg(db_)));
-  sqlite3_exec(db_, "PRAGMA foreign_keys=OFF; PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL;",
+  sqlite3_exec(db_, "PRAGMA foreign_keys=OFF; PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; "
+               "PRAGMA cache_size=-65536; PRAGMA temp_store=MEMORY;",
                nullptr, nullptr, nullptr);
   ZarejestrujFunkcjeJet(db_);
   plik_ = plik;

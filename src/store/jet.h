@@ -10,5 +10,6 @@ struct sqlite3;
 // LEFT/MID/LEN, quoted numbers with a decimal comma, ALTER TABLE ... BYTE, the column "limit".
 QString TlumaczJet(const QString& jet);
 
-// Registers MONTH, YEAR, DAY, DATEPART, MID, LEN and the exact SUM on a connection.
+// Registers MONTH, YEAR, DAY, DATEPART, MID, LEN, JETLEFT, JETNOW, JETDATE, IIF, NZ, INT, the
+// exact sum SUMA and a LIKE blind to case in every alphabet on a connection.
 void ZarejestrujFunkcjeJet(sqlite3* db);

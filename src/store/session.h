@@ -102,6 +102,18 @@ struct Session {
   bool pubEdytorOtwarty = false;
   bool pubEdytorTransferuOtwarty = false;
   int pubPrzegladOtwarty = 0;
+  bool pubRaportDetaliczny = false;  // the account, category and counterparty reports: detailed
+  // The transfer browser restricted by the account browser: to one kind, or to one account.
+  int pubFiltrTransferowRodzaj = 0;
+  qint64 pubFiltrTransferowKonto = 0;
+
+  // The payment slip: the recipient and the planned entry it pays (0: none).
+  qint64 pubPrzelewKontrahent = 0;
+  qint64 pubPrzelewZaplanowana = 0;
+
+  // The calculator: the value handed in and out, and where its window goes (screen pixels).
+  QString pubKalkWartosc;
+  int pubKalkLewa = 0, pubKalkGora = 0;
 };
 
 extern Session sesja;

@@ -1,0 +1,188 @@
+// zorvik-bench [--dane DIR] [--data DIR] [--nowa] [--filtr TEXT] [--czas MS]
+// Times the program's store work on a generated store of the design's size (100 000 entries,
+// 20 000 transfers, 40 accounts, 300 categories, 500 counterparties) beside the same queries run
+// as raw SQL on the same file, and prints the medians, their ratio and the peak memory.
+
+#include <sqlcipher/sqlite3.h>
+#include <sys/resource.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <algorithm>
+#include <cstdio>
+
+#include "budowa.h"
+#include "rejestr.h"
+#include "store/baza.h"
+#include "store/session.h"
+#include "store/start.h"
+#include "surowa.h"
+
+namespace {
+
+struct Opcje {
+  QString folder = QDir(QDir::tempPath()).filePath(QStringLiteral("zorvik-bench"));
+  QString data = QStringLiteral(ZORVIK_DATA_DIR);
+  bool nowa = false;
+  QString filtr;
+  double czasMs = 400;  // time spent on each side of a case, at least five samples
+};
+
+int blad(const QString& tekst) {
+  std::fprintf(stderr, "zorvik-bench: %s\n", qPrintable(tekst));
+  return 1;
+}
+
+// Median milliseconds of one call. Calls too short for the clock are timed in batches.
+double zmierz(const std::function<QString()>& f, double budzetMs) {
+  QElapsedTimer t;
+  t.start();
+  f();
+  const double pierwszy = double(t.nsecsElapsed()) / 1e6;
+  const int partia = pierwszy >= 0.5 ? 1 : int(std::min(10000.0, 0.5 / std::max(pierwszy, 1e-5)));
+  std::vector<double> proby;
+  QElapsedTimer calosc;
+  calosc.start();
+  while (proby.size() < 5 || (double(calosc.elapsed()) < budzetMs && proby.size() < 2000)) {
+    t.restart();
+    for (int i = 0; i < partia; ++i) f();
+    proby.push_back(double(t.nsecsElapsed()) / 1e6 / partia);
+  }
+  std::nth_element(proby.begin(), proby.begin() + qsizetype(proby.size() / 2), proby.end());
+  return proby[proby.size() / 2];
+}
+
+qint64 ile(sqlite3* db, const char* tabela) {
+  Polecenie p(db, QStringLiteral("SELECT count(*) FROM %1").arg(QLatin1String(tabela)));
+  return p.Wiersz() ? p.Liczba(0) : -1;
+}
+
+// The largest resident size since the last reset, in MB (Linux keeps it in VmHWM).
+double szczytPamieciMb() {
+  QFile f(QStringLiteral("/proc/self/status"));
+  if (f.open(QIODevice::ReadOnly)) {
+    for (const QByteArray& linia : f.readAll().split('\n'))
+      if (linia.startsWith("VmHWM:"))
+        return linia.mid(6).trimmed().split(' ').value(0).toDouble() / 1024.0;
+  }
+  rusage u{};
+  getrusage(RUSAGE_SELF, &u);
+  return double(u.ru_maxrss) / 1024.0;
+}
+
+// Forgets the peak so far, so that the figure covers the cases and not the generation.
+bool wyzerujSzczytPamieci() {
+  QFile f(QStringLiteral("/proc/self/clear_refs"));
+  return f.open(QIODevice::WriteOnly) && f.write("5") == 1;
+}
+
+bool przygotujMagazyn(const Opcje& o, const QString& plik) {
+  QDir().mkpath(o.folder);
+  if (o.nowa) QFile::remove(plik);
+  QString tekst;
+  bool ma = false;
+  if (QFile::exists(plik)) {
+    if (!MaDaneUzytkownika(plik, &ma, &tekst))
+      return blad(plik + QStringLiteral(": ") + tekst) == 0;
+    if (ma) {
+      std::printf("reusing the store %s (--nowa makes a new one)\n", qPrintable(plik));
+      // Texts from data/ may have changed since it was made.
+      return OdswiezDostarczone(o.data, plik, &tekst) || blad(tekst) == 0;
+    }
+  }
+  QElapsedTimer t;
+  t.start();
+  if (!ZbudujBaze(o.data, plik, &tekst)) return blad(tekst) == 0;
+  const qint64 budowa = t.restart();
+  if (!GenerujProbke(plik, RozmiarProbki(), &tekst)) return blad(tekst) == 0;
+  std::printf("made the store %s: delivered tables %lld ms, sample %lld ms\n", qPrintable(plik),
+              static_cast<long long>(budowa), static_cast<long long>(t.elapsed()));
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication app(argc, argv);
+  Opcje o;
+  const QStringList a = app.arguments();
+  for (int i = 1; i < a.size(); ++i) {
+    const bool wartosc = i + 1 < a.size();
+    if (a[i] == QLatin1String("--dane") && wartosc)
+      o.folder = a[++i];
+    else if (a[i] == QLatin1String("--data") && wartosc)
+      o.data = a[++i];
+    else if (a[i] == QLatin1String("--filtr") && wartosc)
+      o.filtr = a[++i];
+    else if (a[i] == QLatin1String("--czas") && wartosc)
+      o.czasMs = a[++i].toDouble();
+    else if (a[i] == QLatin1String("--nowa"))
+      o.nowa = true;
+    else
+      return blad(QStringLiteral(
+          "usage: zorvik-bench [--dane DIR] [--data DIR] [--nowa] [--filtr TEXT] [--czas MS]"));
+  }
+  const QString plik = QDir(o.folder).filePath(QStringLiteral("money.fns"));
+  if (!przygotujMagazyn(o, plik)) return 1;
+
+  // The program's start: edition, data folder, the store upgrade and the setup row.
+  sesja = Session{};
+  sesja.pubJezyk = 1;
+  UstawFolderDanych(o.folder);
+  if (!OtworzBaze() || !AktualizujBaze())
+    return blad(QStringLiteral("the store does not open: ") + plik);
+  WczytajSetup();
+  QString tekst;
+  sqlite3* surowa = OtworzSurowo(plik, false, &tekst);
+  if (!surowa) return blad(tekst);
+  UstawKontekst({o.folder, plik, surowa});
+  std::printf(
+      "%lld entries, %lld planned, %lld transfers, %lld accounts, %lld categories, %lld "
+      "counterparties\n\n",
+      static_cast<long long>(ile(surowa, "transakcje")),
+      static_cast<long long>(ile(surowa, "zaplanowane")),
+      static_cast<long long>(ile(surowa, "wewnetrzne")),
+      static_cast<long long>(ile(surowa, "konta")),
+      static_cast<long long>(ile(surowa, "kategorie")),
+      static_cast<long long>(ile(surowa, "kontrahent")));
+  const bool szczytOdZera = wyzerujSzczytPamieci();
+
+  std::vector<WpisRejestru> przypadki = RejestrBench();
+  std::stable_sort(
+      przypadki.begin(), przypadki.end(),
+      [](const WpisRejestru& x, const WpisRejestru& y) { return x.kolejnosc < y.kolejnosc; });
+  std::printf("%-44s %12s %12s %8s %8s\n", "case", "ours ms", "floor ms", "ratio", "limit");
+  int rozne = 0;
+  for (const WpisRejestru& w : przypadki) {
+    const PrzypadekBench& p = w.przypadek;
+    if (!o.filtr.isEmpty() && !p.nazwa.contains(o.filtr, Qt::CaseInsensitive)) continue;
+    if (p.przygotuj) p.przygotuj();
+    const QString nasz = p.nasz();
+    const double czasNasz = zmierz(p.nasz, o.czasMs);
+    QString uwaga;
+    QString podloga = QStringLiteral("-"), iloraz = QStringLiteral("-");
+    if (p.surowy) {
+      const QString surowy = p.surowy();
+      const double czasSurowy = zmierz(p.surowy, o.czasMs);
+      podloga = QString::number(czasSurowy, 'f', 5);
+      iloraz =
+          czasSurowy > 0 ? QString::number(czasNasz / czasSurowy, 'g', 3) : QStringLiteral("-");
+      if (nasz != surowy) {
+        ++rozne;
+        uwaga = QStringLiteral("  DIFFERENT: ours [%1], floor [%2]").arg(nasz, surowy);
+      }
+    }
+    const QString limit = p.celMs > 0 ? QString::number(p.celMs, 'f', 0) : QStringLiteral("-");
+    if (p.celMs > 0 && czasNasz > p.celMs) uwaga += QStringLiteral("  OVER THE LIMIT");
+    std::printf("%-44s %12.5f %12s %8s %8s%s\n", qPrintable(p.nazwa), czasNasz, qPrintable(podloga),
+                qPrintable(iloraz), qPrintable(limit), qPrintable(uwaga));
+    std::fflush(stdout);
+  }
+  sqlite3_close(surowa);
+  ZamknijBaze();
+  std::printf("\npeak RSS %s: %.1f MB (limit 200 MB)\n",
+              szczytOdZera ? "during the cases" : "of the process", szczytPamieciMb());
+  return rozne ? 2 : 0;
+}

@@ -1,0 +1,137 @@
+#include "calculator/PoleKwoty_gui.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "calculator/frmKalkulator.h"
+#include "store/kwota.h"
+#include "store/session.h"
+#include "store/tekst.h"
+
+namespace {
+const char* const kWlasciwosc = "zorvikPoleKwoty";
+// Where the calculator opens: right of the field, its top at the field's bottom edge.
+constexpr int kOdstepKalkulatora = 22;
+}  // namespace
+
+PoleTekstowe StanPola(const QLineEdit* pole) {
+  PoleTekstowe stan;
+  stan.tekst = pole->text();
+  if (pole->hasSelectedText()) {
+    stan.selStart = pole->selectionStart();
+    stan.selLength = pole->selectionLength();
+  } else {
+    stan.selStart = pole->cursorPosition();
+  }
+  return stan;
+}
+
+void UstawStanPola(QLineEdit* pole, const PoleTekstowe& stan) {
+  if (pole->text() != stan.tekst) pole->setText(stan.tekst);
+  if (stan.selLength > 0)
+    pole->setSelection(stan.selStart, stan.selLength);
+  else
+    pole->setCursorPosition(stan.selStart);
+}
+
+bool FiltrujKlawisz(QLineEdit* pole, QKeyEvent* k,
+                    const std::function<bool(QChar, PoleTekstowe&)>& regula) {
+  if (k->matches(QKeySequence::Copy) || k->matches(QKeySequence::SelectAll)) return false;
+  QChar znak;
+  switch (k->key()) {
+    case Qt::Key_Backspace:
+      znak = QChar(u'\b');
+      break;
+    case Qt::Key_Delete:
+      znak = QChar(char16_t(0x7f));
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      znak = QChar(u'\r');
+      break;
+    case Qt::Key_Escape:
+      znak = QChar(char16_t(0x1b));
+      break;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      return false;
+    default: {
+      const QString tekst = k->text();
+      if (tekst.isEmpty()) return false;
+      // Paste, cut, undo and other shortcuts would put free text into the field.
+      if (k->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return true;
+      znak = tekst.at(0);
+    }
+  }
+  PoleTekstowe stan = StanPola(pole);
+  if (regula(znak, stan)) return false;
+  UstawStanPola(pole, stan);
+  return true;
+}
+
+PoleKwoty::PoleKwoty(QLineEdit* pole) : QObject(pole) {
+  pole->setProperty(kWlasciwosc, QVariant::fromValue(static_cast<QObject*>(this)));
+  pole->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  // Nothing but keys reaches the field: no pasting or dropping of free text.
+  pole->setContextMenuPolicy(Qt::NoContextMenu);
+  pole->setAcceptDrops(false);
+  pole->installEventFilter(this);
+}
+
+PoleKwoty* PoleKwoty::Podlacz(QLineEdit* pole) {
+  if (PoleKwoty* juz = Z(pole)) return juz;
+  return new PoleKwoty(pole);
+}
+
+PoleKwoty* PoleKwoty::Z(const QLineEdit* pole) {
+  if (!pole) return nullptr;
+  return qobject_cast<PoleKwoty*>(pole->property(kWlasciwosc).value<QObject*>());
+}
+
+QLineEdit* PoleKwoty::Pole() const { return static_cast<QLineEdit*>(parent()); }
+
+double PoleKwoty::Wartosc() const {
+  QString tekst = kalkFormatuj(Pole()->text());
+  return KwotaZTekstu(tekst);
+}
+
+void PoleKwoty::UstawWartosc(double wartosc) {
+  Pole()->setText(FormatKwotyEdycja(ZaokraglijDoGroszy(wartosc)));
+}
+
+void PoleKwoty::Formatuj() {
+  QLineEdit* pole = Pole();
+  const QString tekst = kalkFormatuj(pole->text());
+  if (tekst != pole->text()) pole->setText(tekst);
+}
+
+void PoleKwoty::OtworzKalkulator() {
+  QLineEdit* pole = Pole();
+  Formatuj();
+  const QPoint rog = pole->mapToGlobal(QPoint(pole->width() + kOdstepKalkulatora, pole->height()));
+  sesja.pubKalkLewa = rog.x();
+  sesja.pubKalkGora = rog.y();
+  sesja.pubKalkWartosc = pole->text();
+  {
+    frmKalkulator okno(pole->window());
+    okno.exec();
+  }
+  pole->setText(sesja.pubKalkWartosc);
+  pole->setFocus();
+}
+
+bool PoleKwoty::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
+  if (obiekt != parent()) return false;
+  switch (zdarzenie->type()) {
+    case QEvent::KeyPress:
+      return FiltrujKlawisz(Pole(), static_cast<QKeyEvent*>(zdarzenie), &kalkKeyPress);
+    case QEvent::FocusOut:
+    case QEvent::WindowActivate:
+      Formatuj();
+      break;
+    default:
+      break;
+  }
+  return false;
+}

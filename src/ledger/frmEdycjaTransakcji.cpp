@@ -1,0 +1,334 @@
+#include "ledger/frmEdycjaTransakcji.h"
+
+#include <QDateEdit>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "calculator/PoleKwoty_gui.h"
+#include "ledger/edytorwpisu_gui.h"
+#include "ledger/transakcje.h"
+#include "mainwindow/frmMain.h"
+#include "masterdata/frmPrzegladKategorii.h"
+#include "masterdata/frmPrzegladKont.h"
+#include "masterdata/frmPrzegladKontrahentow.h"
+#include "masterdata/kategorie.h"
+#include "masterdata/konta.h"
+#include "masterdata/kontrahenci.h"
+#include "store/baza.h"
+#include "store/kwota.h"
+#include "store/napis.h"
+#include "store/session.h"
+#include "store/tekst.h"
+
+namespace {
+
+QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
+  auto* b = new QPushButton(tekst, rodzic);
+  b->setObjectName(nazwa);
+  b->setAutoDefault(false);
+  return b;
+}
+
+// A frame with the chosen item's caption and its "change" button.
+QGroupBox* ramkaWyboru(const QString& nazwa, QLabel*& etykieta, const QString& nazwaEtykiety,
+                       QPushButton* przycisk, QWidget* rodzic) {
+  auto* ramka = new QGroupBox(rodzic);
+  ramka->setObjectName(nazwa);
+  etykieta = new QLabel(ramka);
+  etykieta->setObjectName(nazwaEtykiety);
+  etykieta->setMinimumWidth(320);
+  QFont f = etykieta->font();
+  f.setBold(true);
+  etykieta->setFont(f);
+  przycisk->setParent(ramka);
+  auto* uklad = new QHBoxLayout(ramka);
+  uklad->addWidget(etykieta, 1);
+  uklad->addWidget(przycisk);
+  return ramka;
+}
+
+}  // namespace
+
+frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent)
+    : QDialog(parent), trybFormy_(sesja.pubTryb) {
+  setObjectName(QStringLiteral("frmEdycjaTransakcji"));
+  sesja.pubEdytorOtwarty = true;
+  OtworzBaze();
+  zbuduj();
+
+  // A browser behind the editor has fixed its own record.
+  if (sesja.pubWidokZrodlowy == 1) cmdWybierzKonto_->setEnabled(false);
+  if (sesja.pubWidokZrodlowy == 2) cmdWybierzKategorie_->setEnabled(false);
+  if (sesja.pubWidokZrodlowy == 3) cmdWybierzKontrahenta_->setEnabled(false);
+  const bool przedefiniowany = sesja.pubPrzedefiniowanyKontrahent == -1;
+  if (przedefiniowany) {
+    cmdWybierzKontrahenta_->setEnabled(false);
+    lblKontrahent_->setText(sesja.pubKontrahent.skrocona);
+  }
+  // Templates come with their own screen; until then the button stays off.
+  cmdWybierzSzablon_->setEnabled(false);
+  cmdRealizuj_->setVisible(sesja.pubTryb != 2 && sesja.pubTransakcja.id != 0);
+
+  if (sesja.pubTransakcja.id == 0) {
+    dtpData_->setDate(sesja.pubPrzedefiniowanaData.isValid() ? sesja.pubPrzedefiniowanaData
+                                                             : sesja.pubFiltrCzasowy.pozycja);
+    sesja.pubKategoria.identyfikator.clear();
+    sesja.pubKonto.id = 0;
+    if (!przedefiniowany) sesja.pubKontrahent.id = 0;
+    txtKwota_->setText(QStringLiteral("0"));
+    ustawTytul(true, sesja.pubKategoria.rodzaj);
+  } else {
+    if (const auto w = CzytajTransakcje(sesja.pubTryb, sesja.pubTransakcja.id)) {
+      // Blanks the save appended to the description are not part of what the user typed.
+      QString opis = w->opis;
+      while (opis.endsWith(QLatin1Char(' '))) opis.chop(1);
+      txtOpis_->setText(opis);
+      sesja.pubTransakcja.rodzaj = w->rodzaj;
+      sesja.pubKontrahent.id = w->kontrahent;
+      sesja.pubKontrahent.skrocona = w->nazwaKontrahenta;
+      sesja.pubKategoria.identyfikator = w->kategoria;
+      sesja.pubKategoria.nazwa = w->nazwaKategorii;
+      sesja.pubKategoria.rodzaj = w->rodzaj;
+      sesja.pubKonto.id = w->konto;
+      sesja.pubKonto.nazwa = w->nazwaKonta;
+      sesja.pubKonto.rodzaj = w->rodzajKonta;
+      dtpData_->setDate(w->data);
+      txtKwota_->setText(FormatKwotyEdycja(w->rodzaj == 1 ? w->przychod : w->wydatek));
+    }
+    ustawTytul(false, sesja.pubTransakcja.rodzaj);
+    OdswiezEtykiety();
+    sesja.pubKonto.datautworzenia = DataUtworzeniaKonta(sesja.pubKonto.id);
+  }
+  if (sesja.pubTryb == 1 || sesja.pubTryb == 3)
+    setWindowTitle(windowTitle() + QLatin1Char(' ') +
+                   Napis(QStringLiteral("frmEdycjaTransakcji60")));
+  PoleKwoty::Z(txtKwota_)->Formatuj();
+  txtKwota_->setFocus();
+  txtKwota_->selectAll();
+}
+
+frmEdycjaTransakcji::~frmEdycjaTransakcji() { sesja.pubEdytorOtwarty = false; }
+
+void frmEdycjaTransakcji::zbuduj() {
+  auto* fraData = new QGroupBox(Napis(QStringLiteral("frmEdycjaTransakcji1")), this);
+  fraData->setObjectName(QStringLiteral("fraData"));
+  dtpData_ = NowePoleDaty(QStringLiteral("dtpData"), sesja.pubFiltrCzasowy.pozycja, fraData);
+  dtpData_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji2")));
+  auto* lblKwota = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcji3")), fraData);
+  lblKwota->setObjectName(QStringLiteral("lblKwota"));
+  txtKwota_ = new QLineEdit(fraData);
+  txtKwota_->setObjectName(QStringLiteral("txtKwota"));
+  txtKwota_->setMaxLength(10);
+  txtKwota_->setFixedWidth(
+      txtKwota_->fontMetrics().horizontalAdvance(QStringLiteral("0000000000000")));
+  txtKwota_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji4")));
+  PoleKwoty::Podlacz(txtKwota_);
+  lblKwota->setBuddy(txtKwota_);
+  cmdKalkulator_ = new QToolButton(fraData);
+  cmdKalkulator_->setObjectName(QStringLiteral("cmdKalkulator"));
+  cmdKalkulator_->setText(QStringLiteral("..."));
+  cmdKalkulator_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji5")));
+  connect(cmdKalkulator_, &QToolButton::clicked, this,
+          [this] { PoleKwoty::Z(txtKwota_)->OtworzKalkulator(); });
+  auto* ukladDaty = new QHBoxLayout(fraData);
+  ukladDaty->addWidget(dtpData_);
+  ukladDaty->addStretch();
+  ukladDaty->addWidget(lblKwota);
+  ukladDaty->addWidget(txtKwota_);
+  ukladDaty->addWidget(cmdKalkulator_);
+
+  auto* lblOpis = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcji6")), this);
+  lblOpis->setObjectName(QStringLiteral("lblOpis"));
+  txtOpis_ = new QLineEdit(this);
+  txtOpis_->setObjectName(QStringLiteral("txtOpis"));
+  txtOpis_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji7")));
+  lblOpis->setBuddy(txtOpis_);
+  auto* opis = new QHBoxLayout;
+  opis->addWidget(lblOpis);
+  opis->addWidget(txtOpis_, 1);
+
+  cmdWybierzKonto_ = przycisk(QStringLiteral("cmdWybierzKonto"),
+                              Napis(QStringLiteral("frmEdycjaTransakcji10")), this);
+  cmdWybierzKonto_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji11")));
+  fraKonto_ = ramkaWyboru(QStringLiteral("fraKonto"), lblKonto_, QStringLiteral("lblKonto"),
+                          cmdWybierzKonto_, this);
+  fraKonto_->setTitle(Napis(QStringLiteral("frmEdycjaTransakcji8")));
+  lblKonto_->setText(Napis(QStringLiteral("frmEdycjaTransakcji9")));
+  cmdWybierzKategorie_ = przycisk(QStringLiteral("cmdWybierzKategorie"),
+                                  Napis(QStringLiteral("frmEdycjaTransakcji14")), this);
+  cmdWybierzKategorie_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji15")));
+  fraKategoria_ = ramkaWyboru(QStringLiteral("fraKategoria"), lblKategoria_,
+                              QStringLiteral("lblKategoria"), cmdWybierzKategorie_, this);
+  fraKategoria_->setTitle(Napis(QStringLiteral("frmEdycjaTransakcji12")));
+  lblKategoria_->setText(Napis(QStringLiteral("frmEdycjaTransakcji13")));
+  cmdWybierzKontrahenta_ = przycisk(QStringLiteral("cmdWybierzKontrahenta"),
+                                    Napis(QStringLiteral("frmEdycjaTransakcji18")), this);
+  cmdWybierzKontrahenta_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji19")));
+  fraKontrahent_ = ramkaWyboru(QStringLiteral("fraKontrahent"), lblKontrahent_,
+                               QStringLiteral("lblKontrahent"), cmdWybierzKontrahenta_, this);
+  fraKontrahent_->setTitle(Napis(QStringLiteral("frmEdycjaTransakcji16")));
+  lblKontrahent_->setText(Napis(QStringLiteral("frmEdycjaTransakcji17")));
+  connect(cmdWybierzKonto_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcji::cmdWybierzKonto_Click);
+  connect(cmdWybierzKategorie_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcji::cmdWybierzKategorie_Click);
+  connect(cmdWybierzKontrahenta_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcji::cmdWybierzKontrahenta_Click);
+
+  cmdWybierzSzablon_ = przycisk(QStringLiteral("cmdWybierzSzablon"),
+                                Napis(QStringLiteral("frmEdycjaTransakcji20")), this);
+  cmdRealizuj_ =
+      przycisk(QStringLiteral("cmdRealizuj"), Napis(QStringLiteral("frmEdycjaTransakcji21")), this);
+  cmdRealizuj_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji25")));
+  cmdOk_ = przycisk(QStringLiteral("cmdOk"), Napis(QStringLiteral("frmEdycjaTransakcji22")), this);
+  cmdOk_->setDefault(true);
+  cmdOk_->setAutoDefault(true);
+  auto* cmdAnuluj =
+      przycisk(QStringLiteral("cmdAnuluj"), Napis(QStringLiteral("frmEdycjaTransakcji23")), this);
+  // The help file is not part of this build.
+  auto* cmdPomoc =
+      przycisk(QStringLiteral("cmdPomoc"), Napis(QStringLiteral("frmEdycjaTransakcji24")), this);
+  cmdPomoc->setEnabled(false);
+  cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji64")));
+  connect(cmdRealizuj_, &QPushButton::clicked, this, &frmEdycjaTransakcji::cmdRealizuj_Click);
+  connect(cmdOk_, &QPushButton::clicked, this, &frmEdycjaTransakcji::cmdOk_Click);
+  connect(cmdAnuluj, &QPushButton::clicked, this, &QDialog::reject);
+  auto* dol = new QHBoxLayout;
+  dol->addWidget(cmdWybierzSzablon_);
+  dol->addWidget(cmdRealizuj_);
+  dol->addStretch();
+  dol->addWidget(cmdOk_);
+  dol->addWidget(cmdAnuluj);
+  dol->addWidget(cmdPomoc);
+
+  auto* uklad = new QVBoxLayout(this);
+  uklad->addWidget(fraData);
+  uklad->addLayout(opis);
+  uklad->addWidget(fraKonto_);
+  uklad->addWidget(fraKategoria_);
+  uklad->addWidget(fraKontrahent_);
+  uklad->addSpacing(4);
+  uklad->addLayout(dol);
+
+  setTabOrder(dtpData_, txtKwota_);
+  setTabOrder(txtKwota_, cmdKalkulator_);
+  setTabOrder(cmdKalkulator_, txtOpis_);
+  setTabOrder(txtOpis_, cmdWybierzKonto_);
+  setTabOrder(cmdWybierzKonto_, cmdWybierzKategorie_);
+  setTabOrder(cmdWybierzKategorie_, cmdWybierzKontrahenta_);
+  setTabOrder(cmdWybierzKontrahenta_, cmdWybierzSzablon_);
+  setTabOrder(cmdWybierzSzablon_, cmdRealizuj_);
+  setTabOrder(cmdRealizuj_, cmdOk_);
+  setTabOrder(cmdOk_, cmdAnuluj);
+  resize(600, sizeHint().height());
+}
+
+void frmEdycjaTransakcji::ustawTytul(bool nowa, int rodzaj) {
+  const bool przychod = rodzaj == 1;
+  setWindowIcon(IkonaWpisu(przychod ? 1 : 2));
+  if (nowa) {
+    setWindowTitle(przychod ? Napis(QStringLiteral("frmEdycjaTransakcji48"))
+                            : Napis(QStringLiteral("frmEdycjaTransakcji51")));
+    fraKonto_->setTitle(przychod ? Napis(QStringLiteral("frmEdycjaTransakcji49"))
+                                 : Napis(QStringLiteral("frmEdycjaTransakcji52")));
+    fraKategoria_->setTitle(przychod ? Napis(QStringLiteral("frmEdycjaTransakcji50"))
+                                     : Napis(QStringLiteral("frmEdycjaTransakcji53")));
+  } else {
+    setWindowTitle(przychod ? Napis(QStringLiteral("frmEdycjaTransakcji54"))
+                            : Napis(QStringLiteral("frmEdycjaTransakcji57")));
+    fraKonto_->setTitle(przychod ? Napis(QStringLiteral("frmEdycjaTransakcji55"))
+                                 : Napis(QStringLiteral("frmEdycjaTransakcji58")));
+    fraKategoria_->setTitle(przychod ? Napis(QStringLiteral("frmEdycjaTransakcji56"))
+                                     : Napis(QStringLiteral("frmEdycjaTransakcji59")));
+  }
+}
+
+void frmEdycjaTransakcji::OdswiezEtykiety() {
+  // Every caption passes through its lookup, which also keeps pubKonto.limit fresh.
+  lblKonto_->setText(sesja.pubKonto.id != 0 ? OpisKonta(sesja.pubKonto)
+                                            : Napis(QStringLiteral("frmEdycjaTransakcji9")));
+  lblKategoria_->setText(
+      !sesja.pubKategoria.identyfikator.isEmpty()
+          ? SciezkaKategorii(sesja.pubKategoria.identyfikator, sesja.pubKategoria.rodzaj)
+          : Napis(QStringLiteral("frmEdycjaTransakcji13")));
+  lblKontrahent_->setText(sesja.pubKontrahent.id != 0
+                              ? OpisKontrahenta(sesja.pubKontrahent)
+                              : Napis(QStringLiteral("frmEdycjaTransakcji17")));
+}
+
+void frmEdycjaTransakcji::cmdWybierzKonto_Click() {
+  PozycjaPrzy(lblKonto_);
+  sesja.pubTrybPrzegladu = 2;
+  sesja.pubSzczegoly = 0;
+  {
+    frmPrzegladKont picker(this);
+    picker.exec();
+  }
+  OdswiezEtykiety();
+}
+
+void frmEdycjaTransakcji::cmdWybierzKategorie_Click() {
+  PozycjaPrzy(lblKategoria_);
+  sesja.pubTrybPrzegladu = 2;
+  sesja.pubSzczegoly = 0;
+  {
+    frmPrzegladKategorii picker(this);
+    picker.exec();
+  }
+  OdswiezEtykiety();
+}
+
+void frmEdycjaTransakcji::cmdWybierzKontrahenta_Click() {
+  PozycjaPrzy(lblKontrahent_);
+  sesja.pubTrybPrzegladu = 2;
+  sesja.pubSzczegoly = 0;
+  {
+    frmPrzegladKontrahentow picker(this);
+    picker.exec();
+  }
+  OdswiezEtykiety();
+}
+
+DaneTransakcji frmEdycjaTransakcji::Dane() const {
+  DaneTransakcji d;
+  d.tryb = sesja.pubTryb;
+  d.id = sesja.pubTransakcja.id;
+  d.rodzaj = sesja.pubTransakcja.rodzaj;
+  d.data = dtpData_->date();
+  d.kwota = txtKwota_->text();
+  d.opis = txtOpis_->text();
+  d.konto = sesja.pubKonto;
+  d.kategoria = sesja.pubKategoria.identyfikator;
+  d.kontrahent = sesja.pubKontrahent.id;
+  return d;
+}
+
+void frmEdycjaTransakcji::cmdOk_Click() {
+  switch (ZapiszTransakcje(Dane())) {
+    case WynikEdycji::Zapisano:
+      OdswiezMain();
+      OdswiezMainZaplanowane();
+      StanKont();
+      accept();
+      break;
+    case WynikEdycji::Zamknij:
+      reject();
+      break;
+    case WynikEdycji::Zostan:
+      // The form stays as the user left it; OK then means the mode the form was opened in.
+      sesja.pubTryb = trybFormy_;
+      txtKwota_->setFocus();
+      break;
+  }
+}
+
+void frmEdycjaTransakcji::cmdRealizuj_Click() {
+  sesja.pubTryb = 3;
+  cmdOk_Click();
+}

@@ -1,0 +1,267 @@
+#include "ledger/frmEdycjaTransakcjiWewnetrznej.h"
+
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "calculator/PoleKwoty_gui.h"
+#include "ledger/edytorwpisu_gui.h"
+#include "ledger/transfery.h"
+#include "mainwindow/frmMain.h"
+#include "masterdata/frmPrzegladKont.h"
+#include "masterdata/konta.h"
+#include "store/baza.h"
+#include "store/napis.h"
+#include "store/tekst.h"
+
+namespace {
+
+QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
+  auto* b = new QPushButton(tekst, rodzic);
+  b->setObjectName(nazwa);
+  b->setAutoDefault(false);
+  return b;
+}
+
+QGroupBox* ramkaKonta(const QString& nazwa, const QString& tytul, QLabel*& etykieta,
+                      const QString& nazwaEtykiety, QPushButton* przycisk, QWidget* rodzic) {
+  auto* ramka = new QGroupBox(tytul, rodzic);
+  ramka->setObjectName(nazwa);
+  etykieta = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej9")), ramka);
+  etykieta->setObjectName(nazwaEtykiety);
+  etykieta->setMinimumWidth(320);
+  QFont f = etykieta->font();
+  f.setBold(true);
+  etykieta->setFont(f);
+  przycisk->setParent(ramka);
+  auto* uklad = new QHBoxLayout(ramka);
+  uklad->addWidget(etykieta, 1);
+  uklad->addWidget(przycisk);
+  return ramka;
+}
+
+}  // namespace
+
+frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent)
+    : QDialog(parent), trybFormy_(sesja.pubTryb) {
+  setObjectName(QStringLiteral("frmEdycjaTransakcjiWewnetrznej"));
+  zbuduj();
+  OtworzBaze();
+  // The account browser behind the form has fixed the accounts.
+  if (sesja.pubWidokZrodlowy == 1) {
+    cmdZKonta_->setEnabled(false);
+    cmdNaKonto_->setEnabled(false);
+  }
+  cmdRealizuj_->setVisible(sesja.pubTryb != 2 && sesja.pubTransfer != 0);
+  sesja.pubEdytorTransferuOtwarty = true;
+  // Templates come with their own screen; until then the button stays off.
+  cmdSzablon_->setEnabled(false);
+
+  if (sesja.pubTransfer == 0) {
+    dtpData_->setDate(sesja.pubPrzedefiniowanaData.isValid() ? sesja.pubPrzedefiniowanaData
+                                                             : sesja.pubFiltrCzasowy.pozycja);
+    zKonta_.id = 0;
+    naKonto_.id = 0;
+    txtKwota_->setText(QStringLiteral("0"));
+  } else if (const auto w = CzytajTransfer(sesja.pubTryb, sesja.pubTransfer)) {
+    QString opis = w->opis;
+    while (opis.endsWith(QLatin1Char(' '))) opis.chop(1);
+    txtOpis_->setText(opis);
+    dtpData_->setDate(w->data);
+    zKonta_.id = w->zKonta;
+    zKonta_.nazwa = w->nazwaZKonta;
+    zKonta_.rodzaj = w->rodzajZKonta;
+    naKonto_.id = w->naKonto;
+    naKonto_.nazwa = w->nazwaNaKonto;
+    naKonto_.rodzaj = w->rodzajNaKonto;
+    // The balance is not read: it stays 0 until the user picks the account.
+    zKonta_.datautworzenia = DataUtworzeniaKonta(zKonta_.id);
+    naKonto_.datautworzenia = DataUtworzeniaKonta(naKonto_.id);
+    txtKwota_->setText(FormatKwotyEdycja(w->kwota));
+  }
+  setWindowTitle(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej48")));
+  if (sesja.pubTryb == 1 || sesja.pubTryb == 3)
+    setWindowTitle(windowTitle() + QLatin1Char(' ') +
+                   Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej43")));
+  OdswiezEtykiety();
+  PoleKwoty::Z(txtKwota_)->Formatuj();
+  txtKwota_->setFocus();
+  txtKwota_->selectAll();
+}
+
+frmEdycjaTransakcjiWewnetrznej::~frmEdycjaTransakcjiWewnetrznej() {
+  sesja.pubEdytorTransferuOtwarty = false;
+}
+
+void frmEdycjaTransakcjiWewnetrznej::zbuduj() {
+  setWindowIcon(IkonaWpisu(3));
+  auto* fraData = new QGroupBox(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej1")), this);
+  fraData->setObjectName(QStringLiteral("fraData"));
+  dtpData_ = NowePoleDaty(QStringLiteral("dtpData"), sesja.pubFiltrCzasowy.pozycja, fraData);
+  dtpData_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej2")));
+  auto* lblKwota = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej3")), fraData);
+  lblKwota->setObjectName(QStringLiteral("lblKwota"));
+  txtKwota_ = new QLineEdit(fraData);
+  txtKwota_->setObjectName(QStringLiteral("txtKwota"));
+  txtKwota_->setMaxLength(10);
+  txtKwota_->setFixedWidth(
+      txtKwota_->fontMetrics().horizontalAdvance(QStringLiteral("0000000000000")));
+  txtKwota_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej4")));
+  PoleKwoty::Podlacz(txtKwota_);
+  lblKwota->setBuddy(txtKwota_);
+  cmdKalkulator_ = new QToolButton(fraData);
+  cmdKalkulator_->setObjectName(QStringLiteral("cmdKalkulator"));
+  cmdKalkulator_->setText(QStringLiteral("..."));
+  cmdKalkulator_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej5")));
+  connect(cmdKalkulator_, &QToolButton::clicked, this,
+          [this] { PoleKwoty::Z(txtKwota_)->OtworzKalkulator(); });
+  auto* ukladDaty = new QHBoxLayout(fraData);
+  ukladDaty->addWidget(dtpData_);
+  ukladDaty->addStretch();
+  ukladDaty->addWidget(lblKwota);
+  ukladDaty->addWidget(txtKwota_);
+  ukladDaty->addWidget(cmdKalkulator_);
+
+  auto* lblOpis = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej6")), this);
+  lblOpis->setObjectName(QStringLiteral("lblOpis"));
+  txtOpis_ = new QLineEdit(this);
+  txtOpis_->setObjectName(QStringLiteral("txtOpis"));
+  txtOpis_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej7")));
+  lblOpis->setBuddy(txtOpis_);
+  auto* opis = new QHBoxLayout;
+  opis->addWidget(lblOpis);
+  opis->addWidget(txtOpis_, 1);
+
+  cmdZKonta_ = przycisk(QStringLiteral("cmdZKonta"),
+                        Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej10")), this);
+  cmdZKonta_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej11")));
+  auto* fraZKonta = ramkaKonta(QStringLiteral("fraZKonta"),
+                               Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej8")), lblZKonta_,
+                               QStringLiteral("lblZKonta"), cmdZKonta_, this);
+  cmdNaKonto_ = przycisk(QStringLiteral("cmdNaKonto"),
+                         Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej14")), this);
+  cmdNaKonto_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej15")));
+  auto* fraNaKonto = ramkaKonta(QStringLiteral("fraNaKonto"),
+                                Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej12")),
+                                lblNaKonto_, QStringLiteral("lblNaKonto"), cmdNaKonto_, this);
+  lblNaKonto_->setText(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej13")));
+  connect(cmdZKonta_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcjiWewnetrznej::cmdZKonta_Click);
+  connect(cmdNaKonto_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcjiWewnetrznej::cmdNaKonto_Click);
+
+  cmdSzablon_ = przycisk(QStringLiteral("cmdSzablon"),
+                         Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej16")), this);
+  cmdRealizuj_ = przycisk(QStringLiteral("cmdRealizuj"),
+                          Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej17")), this);
+  cmdRealizuj_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej49")));
+  cmdOK_ = przycisk(QStringLiteral("cmdOK"),
+                    Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej18")), this);
+  cmdOK_->setDefault(true);
+  cmdOK_->setAutoDefault(true);
+  auto* cmdAnuluj = przycisk(QStringLiteral("cmdAnuluj"),
+                             Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej19")), this);
+  // The help file is not part of this build.
+  auto* cmdPomoc = przycisk(QStringLiteral("cmdPomoc"),
+                            Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej47")), this);
+  cmdPomoc->setEnabled(false);
+  cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej50")));
+  connect(cmdRealizuj_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcjiWewnetrznej::cmdRealizuj_Click);
+  connect(cmdOK_, &QPushButton::clicked, this, &frmEdycjaTransakcjiWewnetrznej::cmdOK_Click);
+  connect(cmdAnuluj, &QPushButton::clicked, this, &QDialog::reject);
+  auto* dol = new QHBoxLayout;
+  dol->addWidget(cmdSzablon_);
+  dol->addWidget(cmdRealizuj_);
+  dol->addStretch();
+  dol->addWidget(cmdOK_);
+  dol->addWidget(cmdAnuluj);
+  dol->addWidget(cmdPomoc);
+
+  auto* uklad = new QVBoxLayout(this);
+  uklad->addWidget(fraData);
+  uklad->addLayout(opis);
+  uklad->addWidget(fraZKonta);
+  uklad->addWidget(fraNaKonto);
+  uklad->addSpacing(4);
+  uklad->addLayout(dol);
+
+  setTabOrder(dtpData_, txtKwota_);
+  setTabOrder(txtKwota_, cmdKalkulator_);
+  setTabOrder(cmdKalkulator_, txtOpis_);
+  setTabOrder(txtOpis_, cmdZKonta_);
+  setTabOrder(cmdZKonta_, cmdNaKonto_);
+  setTabOrder(cmdNaKonto_, cmdSzablon_);
+  setTabOrder(cmdSzablon_, cmdRealizuj_);
+  setTabOrder(cmdRealizuj_, cmdOK_);
+  setTabOrder(cmdOK_, cmdAnuluj);
+  resize(600, sizeHint().height());
+}
+
+void frmEdycjaTransakcjiWewnetrznej::OdswiezEtykiety() {
+  const QString brak = Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej9"));
+  // The lookup also loads each account's limit.
+  lblZKonta_->setText(zKonta_.id != 0 ? OpisKonta(zKonta_) : brak);
+  lblNaKonto_->setText(naKonto_.id != 0
+                           ? OpisKonta(naKonto_)
+                           : Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej13")));
+}
+
+void frmEdycjaTransakcjiWewnetrznej::wybierzKonto(KontoRekord& konto, QLabel* etykieta) {
+  PozycjaPrzy(etykieta);
+  sesja.pubTrybPrzegladu = 2;
+  sesja.pubSzczegoly = 0;
+  // The browser works on pubKonto; its balance is the only source of the record's.
+  sesja.pubKonto = konto;
+  {
+    frmPrzegladKont picker(this);
+    picker.exec();
+  }
+  konto = sesja.pubKonto;
+  OdswiezEtykiety();
+}
+
+void frmEdycjaTransakcjiWewnetrznej::cmdZKonta_Click() { wybierzKonto(zKonta_, lblZKonta_); }
+
+void frmEdycjaTransakcjiWewnetrznej::cmdNaKonto_Click() { wybierzKonto(naKonto_, lblNaKonto_); }
+
+DaneTransferu frmEdycjaTransakcjiWewnetrznej::Dane() const {
+  DaneTransferu d;
+  d.tryb = sesja.pubTryb;
+  d.id = sesja.pubTransfer;
+  d.data = dtpData_->date();
+  d.kwota = txtKwota_->text();
+  d.opis = txtOpis_->text();
+  d.zKonta = zKonta_;
+  d.naKonto = naKonto_;
+  return d;
+}
+
+void frmEdycjaTransakcjiWewnetrznej::cmdOK_Click() {
+  switch (ZapiszTransfer(Dane())) {
+    case WynikEdycji::Zapisano:
+      OdswiezMainWewnetrzne();
+      OdswiezMainWewnetrzneZaplanowane();
+      StanKont();
+      accept();
+      break;
+    case WynikEdycji::Zamknij:
+      reject();
+      break;
+    case WynikEdycji::Zostan:
+      // The form stays as the user left it; OK then means the mode the form was opened in.
+      sesja.pubTryb = trybFormy_;
+      txtKwota_->setFocus();
+      break;
+  }
+}
+
+void frmEdycjaTransakcjiWewnetrznej::cmdRealizuj_Click() {
+  sesja.pubTryb = 3;
+  cmdOK_Click();
+}

@@ -1,0 +1,66 @@
+#pragma once
+// The main window: the menu bar and the column of command buttons that reach every screen, the
+// dashboard area, and the status bar with the working date, today and the time filter.
+
+#include <QMainWindow>
+
+class QLabel;
+class QTimer;
+class QVBoxLayout;
+
+class frmMain : public QMainWindow {
+  Q_OBJECT
+ public:
+  explicit frmMain(QWidget* rodzic = nullptr);
+  ~frmMain() override;
+  // The one main window, or null while there is none.
+  static frmMain* Instancja();
+
+  // Refills of the dashboard, called by the editors after a change.
+  void OdswiezMain();
+  void OdswiezMainZaplanowane();
+  void OdswiezMainWewnetrzne();
+  void OdswiezMainWewnetrzneZaplanowane();
+  void StanKont();
+  // The status bar: working date, today, the time filter in force.
+  void OdswiezStatus();
+
+  // The dashboard's area, where the lists and the balance panel go.
+  QWidget* Pulpit() const { return pulpit_; }
+  QVBoxLayout* UkladPulpitu() const { return ukladPulpitu_; }
+  // Restores the window from the task bar and brings it to the front.
+  void Przywroc();
+
+ protected:
+  void changeEvent(QEvent* e) override;
+  void resizeEvent(QResizeEvent* e) override;
+  void showEvent(QShowEvent* e) override;
+  void closeEvent(QCloseEvent* e) override;
+
+ private:
+  void zbudujMenu();
+  QWidget* zbudujPrzyciski();
+  QWidget* zbudujPulpit();
+  void zbudujStatus();
+  void odswiezZegar();
+  void ZapiszNotatnik();
+
+  QWidget* pulpit_ = nullptr;
+  QVBoxLayout* ukladPulpitu_ = nullptr;
+  QLabel* panele_[6] = {};
+  QTimer* zegar_ = nullptr;
+  bool zamkniety_ = false;
+};
+
+// The same refreshes for callers without a pointer to the window; they do nothing while no
+// main window exists.
+void OdswiezMain();
+void OdswiezMainZaplanowane();
+void OdswiezMainWewnetrzne();
+void OdswiezMainWewnetrzneZaplanowane();
+void StanKont();
+void OdswiezStatus();
+// Ends the program by closing the main window, with the shut-down steps of its closing.
+void ZakonczProgram();
+// The date line of the main window: day name, day of the year and, in Polish, today's names.
+QString LiniaDaty();

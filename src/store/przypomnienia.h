@@ -1,0 +1,19 @@
+#pragma once
+// The reminder file: what the companion reminder program needs to know, written to
+// <data folder>/cont.rmd, since the companion has no access to the store.
+
+#include <QByteArray>
+#include <QString>
+
+// Writes cont.rmd afresh: today's names, the user's first name, then one line per planned entry
+// and per planned transfer due today or earlier. Seven fields a line joined by the byte 174,
+// CR LF line ends, Windows-1250 text. False with the reason when the store or the file fails;
+// the old file then stays as it was.
+bool ZapiszPrzypomnienia(QString* blad = nullptr);
+
+// Starts the companion (timer, or timer.exe, in the data folder) on its own, from the program's
+// folder. False when it is not there or would not start.
+bool UruchomPrzypominacz();
+
+// Text in Windows-1250; characters the code page lacks become '?'.
+QByteArray DoWindows1250(const QString& tekst);

@@ -24,7 +24,8 @@ CREATE TABLE transakcje (
   konto INTEGER,
   kontrahent INTEGER DEFAULT 0
 );
-CREATE INDEX transakcje_data ON transakcje (data);
+-- Covering the period sums: a range of days is read from the index alone.
+CREATE INDEX transakcje_data ON transakcje (data, konto, przychod, wydatek);
 CREATE INDEX transakcje_konto ON transakcje (konto, data);
 CREATE INDEX transakcje_kategoria ON transakcje (rodzaj, kategoria, data);
 CREATE INDEX transakcje_kontrahent ON transakcje (kontrahent, data);
@@ -53,7 +54,7 @@ CREATE TABLE wewnetrzne (
   zkonta INTEGER,
   nakonto INTEGER
 );
-CREATE INDEX wewnetrzne_data ON wewnetrzne (data);
+CREATE INDEX wewnetrzne_data ON wewnetrzne (data, zkonta, nakonto, kwota);
 CREATE INDEX wewnetrzne_zkonta ON wewnetrzne (zkonta, data);
 CREATE INDEX wewnetrzne_nakonto ON wewnetrzne (nakonto, data);
 

@@ -98,6 +98,19 @@ bool zaladujDostarczone(sqlite3* db, const QString& folderData, QString* blad) {
   return true;
 }
 
+// Planner statistics of a filled store (data/statystyki.sql), so that a new store's queries
+// take the indexes a store in use needs. ANALYZE on the empty tables only makes sqlite_stat1.
+bool statystyki(sqlite3* db, const QString& folderData, QString* blad) {
+  QFile f(QDir(folderData).filePath(QStringLiteral("statystyki.sql")));
+  if (!f.exists()) return true;
+  if (!f.open(QIODevice::ReadOnly)) {
+    if (blad) *blad = QStringLiteral("cannot read %1").arg(f.fileName());
+    return false;
+  }
+  return WykonajSurowo(db, QStringLiteral("ANALYZE; DELETE FROM sqlite_stat1;"), blad) &&
+         WykonajSurowo(db, QString::fromUtf8(f.readAll()), blad);
+}
+
 }  // namespace
 
 bool ZbudujBaze(const QString& folderData, const QString& plik, QString* blad) {
@@ -114,7 +127,7 @@ bool ZbudujBaze(const QString& folderData, const QString& plik, QString* blad) {
   sqlite3* db = OtworzSurowo(tymczasowy, true, blad);
   if (!db) return false;
   bool ok = WykonajSurowo(db, QStringLiteral("BEGIN"), blad) && WykonajSurowo(db, sql, blad) &&
-            zaladujDostarczone(db, folderData, blad) &&
+            zaladujDostarczone(db, folderData, blad) && statystyki(db, folderData, blad) &&
             WykonajSurowo(db, QStringLiteral("COMMIT"), blad);
   sqlite3_close(db);
   if (!ok) {

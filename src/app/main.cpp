@@ -74,6 +74,9 @@ int main(int argc, char** argv) {
     return s.kodWyjscia;
   }
 
+  // The gallery draws into images only: it needs no display, and looks the same on any machine.
+  if (!p.galeria.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Zorvik"));
   QApplication::setWindowIcon(IkonaProgramu());

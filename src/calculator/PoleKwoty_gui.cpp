@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QToolButton>
 
 #include "calculator/frmKalkulator.h"
 #include "store/kwota.h"
@@ -87,6 +88,20 @@ PoleKwoty* PoleKwoty::Podlacz(QLineEdit* pole) {
 PoleKwoty* PoleKwoty::Z(const QLineEdit* pole) {
   if (!pole) return nullptr;
   return qobject_cast<PoleKwoty*>(pole->property(kWlasciwosc).value<QObject*>());
+}
+
+PoleZKalkulatorem PoleKwoty::NowePole(const QString& nazwaPola, const QString& nazwaPrzycisku,
+                                      const QString& podpowiedzPrzycisku, QWidget* rodzic) {
+  auto* pole = new QLineEdit(rodzic);
+  pole->setObjectName(nazwaPola);
+  pole->setMaxLength(10);
+  PoleKwoty* kwota = Podlacz(pole);
+  auto* przycisk = new QToolButton(rodzic);
+  przycisk->setObjectName(nazwaPrzycisku);
+  przycisk->setText(QStringLiteral("..."));
+  przycisk->setToolTip(podpowiedzPrzycisku);
+  connect(przycisk, &QToolButton::clicked, kwota, &PoleKwoty::OtworzKalkulator);
+  return {pole, przycisk};
 }
 
 QLineEdit* PoleKwoty::Pole() const { return static_cast<QLineEdit*>(parent()); }

@@ -16,6 +16,15 @@
 
 class QKeyEvent;
 class QLineEdit;
+class QToolButton;
+class QWidget;
+
+// An amount field (at most 10 characters) with the rules attached, and its "..." button beside
+// it that opens the calculator for it.
+struct PoleZKalkulatorem {
+  QLineEdit* pole;
+  QToolButton* kalkulator;
+};
 
 class PoleKwoty : public QObject {
   Q_OBJECT
@@ -25,6 +34,10 @@ class PoleKwoty : public QObject {
   static PoleKwoty* Podlacz(QLineEdit* pole);
   // The attachment of a field, or null.
   static PoleKwoty* Z(const QLineEdit* pole);
+  // Makes the field (nazwaPola) and then its calculator button (nazwaPrzycisku, with the tip);
+  // the screen places both and sets the field's width.
+  static PoleZKalkulatorem NowePole(const QString& nazwaPola, const QString& nazwaPrzycisku,
+                                    const QString& podpowiedzPrzycisku, QWidget* rodzic);
 
   QLineEdit* Pole() const;
   // The amount the field shows, in whole cents (a text out of shape is read as it will be shown).

@@ -2,10 +2,17 @@
 
 #include <QCalendarWidget>
 #include <QDateEdit>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
+#include <QToolButton>
 
+#include "calculator/PoleKwoty_gui.h"
 #include "store/session.h"
 
 QDateEdit* NowePoleDaty(const QString& nazwa, const QDate& data, QWidget* rodzic) {
@@ -20,6 +27,47 @@ QDateEdit* NowePoleDaty(const QString& nazwa, const QDate& data, QWidget* rodzic
   p->setMinimumDate(QDate(1900, 1, 1));
   p->setDate(data.isValid() ? data : QDate::currentDate());
   return p;
+}
+
+RamkaDaty NowaRamkaDaty(const NapisyRamkiDaty& napisy, QWidget* rodzic) {
+  auto* ramka = new QGroupBox(napisy.tytul, rodzic);
+  ramka->setObjectName(QStringLiteral("fraData"));
+  QDateEdit* data = NowePoleDaty(QStringLiteral("dtpData"), sesja.pubFiltrCzasowy.pozycja, ramka);
+  data->setToolTip(napisy.podpowiedzDaty);
+  auto* lblKwota = new QLabel(napisy.kwota, ramka);
+  lblKwota->setObjectName(QStringLiteral("lblKwota"));
+  const PoleZKalkulatorem kwota =
+      PoleKwoty::NowePole(QStringLiteral("txtKwota"), QStringLiteral("cmdKalkulator"),
+                          napisy.podpowiedzKalkulatora, ramka);
+  kwota.pole->setFixedWidth(
+      kwota.pole->fontMetrics().horizontalAdvance(QStringLiteral("0000000000000")));
+  kwota.pole->setToolTip(napisy.podpowiedzKwoty);
+  lblKwota->setBuddy(kwota.pole);
+  auto* uklad = new QHBoxLayout(ramka);
+  uklad->addWidget(data);
+  uklad->addStretch();
+  uklad->addWidget(lblKwota);
+  uklad->addWidget(kwota.pole);
+  uklad->addWidget(kwota.kalkulator);
+  return {ramka, data, kwota.pole, kwota.kalkulator};
+}
+
+QGroupBox* NowaRamkaWyboru(const QString& nazwa, const QString& tytul, QLabel*& etykieta,
+                           const QString& nazwaEtykiety, const QString& tekstEtykiety,
+                           QPushButton* przycisk, QWidget* rodzic) {
+  auto* ramka = new QGroupBox(tytul, rodzic);
+  ramka->setObjectName(nazwa);
+  etykieta = new QLabel(tekstEtykiety, ramka);
+  etykieta->setObjectName(nazwaEtykiety);
+  etykieta->setMinimumWidth(320);
+  QFont f = etykieta->font();
+  f.setBold(true);
+  etykieta->setFont(f);
+  przycisk->setParent(ramka);
+  auto* uklad = new QHBoxLayout(ramka);
+  uklad->addWidget(etykieta, 1);
+  uklad->addWidget(przycisk);
+  return ramka;
 }
 
 QIcon IkonaWpisu(int rodzaj) {

@@ -7,10 +7,33 @@
 #include <QString>
 
 class QDateEdit;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
 class QWidget;
 
 // A date field with a month calendar that drops down, in the edition's date form.
 QDateEdit* NowePoleDaty(const QString& nazwa, const QDate& data, QWidget* rodzic);
+
+// fraData: dtpData on the left; lblKwota, txtKwota and its cmdKalkulator on the right.
+struct NapisyRamkiDaty {
+  QString tytul, podpowiedzDaty, kwota, podpowiedzKwoty, podpowiedzKalkulatora;
+};
+struct RamkaDaty {
+  QGroupBox* ramka;
+  QDateEdit* data;
+  QLineEdit* kwota;
+  QToolButton* kalkulator;
+};
+RamkaDaty NowaRamkaDaty(const NapisyRamkiDaty& napisy, QWidget* rodzic);
+
+// A frame with the chosen item's caption in bold and the button that changes it; the button
+// moves into the frame.
+QGroupBox* NowaRamkaWyboru(const QString& nazwa, const QString& tytul, QLabel*& etykieta,
+                           const QString& nazwaEtykiety, const QString& tekstEtykiety,
+                           QPushButton* przycisk, QWidget* rodzic);
 
 // imgPrzychod (1), imgWydatek (2) and the transfer's picture (3).
 QIcon IkonaWpisu(int rodzaj);

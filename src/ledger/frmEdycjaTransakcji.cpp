@@ -35,24 +35,6 @@ QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzi
   return b;
 }
 
-// A frame with the chosen item's caption and its "change" button.
-QGroupBox* ramkaWyboru(const QString& nazwa, QLabel*& etykieta, const QString& nazwaEtykiety,
-                       QPushButton* przycisk, QWidget* rodzic) {
-  auto* ramka = new QGroupBox(rodzic);
-  ramka->setObjectName(nazwa);
-  etykieta = new QLabel(ramka);
-  etykieta->setObjectName(nazwaEtykiety);
-  etykieta->setMinimumWidth(320);
-  QFont f = etykieta->font();
-  f.setBold(true);
-  etykieta->setFont(f);
-  przycisk->setParent(ramka);
-  auto* uklad = new QHBoxLayout(ramka);
-  uklad->addWidget(etykieta, 1);
-  uklad->addWidget(przycisk);
-  return ramka;
-}
-
 }  // namespace
 
 frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent)
@@ -116,32 +98,15 @@ frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent)
 frmEdycjaTransakcji::~frmEdycjaTransakcji() { sesja.pubEdytorOtwarty = false; }
 
 void frmEdycjaTransakcji::zbuduj() {
-  auto* fraData = new QGroupBox(Napis(QStringLiteral("frmEdycjaTransakcji1")), this);
-  fraData->setObjectName(QStringLiteral("fraData"));
-  dtpData_ = NowePoleDaty(QStringLiteral("dtpData"), sesja.pubFiltrCzasowy.pozycja, fraData);
-  dtpData_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji2")));
-  auto* lblKwota = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcji3")), fraData);
-  lblKwota->setObjectName(QStringLiteral("lblKwota"));
-  txtKwota_ = new QLineEdit(fraData);
-  txtKwota_->setObjectName(QStringLiteral("txtKwota"));
-  txtKwota_->setMaxLength(10);
-  txtKwota_->setFixedWidth(
-      txtKwota_->fontMetrics().horizontalAdvance(QStringLiteral("0000000000000")));
-  txtKwota_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji4")));
-  PoleKwoty::Podlacz(txtKwota_);
-  lblKwota->setBuddy(txtKwota_);
-  cmdKalkulator_ = new QToolButton(fraData);
-  cmdKalkulator_->setObjectName(QStringLiteral("cmdKalkulator"));
-  cmdKalkulator_->setText(QStringLiteral("..."));
-  cmdKalkulator_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji5")));
-  connect(cmdKalkulator_, &QToolButton::clicked, this,
-          [this] { PoleKwoty::Z(txtKwota_)->OtworzKalkulator(); });
-  auto* ukladDaty = new QHBoxLayout(fraData);
-  ukladDaty->addWidget(dtpData_);
-  ukladDaty->addStretch();
-  ukladDaty->addWidget(lblKwota);
-  ukladDaty->addWidget(txtKwota_);
-  ukladDaty->addWidget(cmdKalkulator_);
+  const RamkaDaty data = NowaRamkaDaty(
+      {Napis(QStringLiteral("frmEdycjaTransakcji1")), Napis(QStringLiteral("frmEdycjaTransakcji2")),
+       Napis(QStringLiteral("frmEdycjaTransakcji3")), Napis(QStringLiteral("frmEdycjaTransakcji4")),
+       Napis(QStringLiteral("frmEdycjaTransakcji5"))},
+      this);
+  auto* fraData = data.ramka;
+  dtpData_ = data.data;
+  txtKwota_ = data.kwota;
+  cmdKalkulator_ = data.kalkulator;
 
   auto* lblOpis = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcji6")), this);
   lblOpis->setObjectName(QStringLiteral("lblOpis"));
@@ -156,24 +121,24 @@ void frmEdycjaTransakcji::zbuduj() {
   cmdWybierzKonto_ = przycisk(QStringLiteral("cmdWybierzKonto"),
                               Napis(QStringLiteral("frmEdycjaTransakcji10")), this);
   cmdWybierzKonto_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji11")));
-  fraKonto_ = ramkaWyboru(QStringLiteral("fraKonto"), lblKonto_, QStringLiteral("lblKonto"),
-                          cmdWybierzKonto_, this);
-  fraKonto_->setTitle(Napis(QStringLiteral("frmEdycjaTransakcji8")));
-  lblKonto_->setText(Napis(QStringLiteral("frmEdycjaTransakcji9")));
+  fraKonto_ =
+      NowaRamkaWyboru(QStringLiteral("fraKonto"), Napis(QStringLiteral("frmEdycjaTransakcji8")),
+                      lblKonto_, QStringLiteral("lblKonto"),
+                      Napis(QStringLiteral("frmEdycjaTransakcji9")), cmdWybierzKonto_, this);
   cmdWybierzKategorie_ = przycisk(QStringLiteral("cmdWybierzKategorie"),
                                   Napis(QStringLiteral("frmEdycjaTransakcji14")), this);
   cmdWybierzKategorie_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji15")));
-  fraKategoria_ = ramkaWyboru(QStringLiteral("fraKategoria"), lblKategoria_,
-                              QStringLiteral("lblKategoria"), cmdWybierzKategorie_, this);
-  fraKategoria_->setTitle(Napis(QStringLiteral("frmEdycjaTransakcji12")));
-  lblKategoria_->setText(Napis(QStringLiteral("frmEdycjaTransakcji13")));
+  fraKategoria_ = NowaRamkaWyboru(
+      QStringLiteral("fraKategoria"), Napis(QStringLiteral("frmEdycjaTransakcji12")), lblKategoria_,
+      QStringLiteral("lblKategoria"), Napis(QStringLiteral("frmEdycjaTransakcji13")),
+      cmdWybierzKategorie_, this);
   cmdWybierzKontrahenta_ = przycisk(QStringLiteral("cmdWybierzKontrahenta"),
                                     Napis(QStringLiteral("frmEdycjaTransakcji18")), this);
   cmdWybierzKontrahenta_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji19")));
-  fraKontrahent_ = ramkaWyboru(QStringLiteral("fraKontrahent"), lblKontrahent_,
-                               QStringLiteral("lblKontrahent"), cmdWybierzKontrahenta_, this);
-  fraKontrahent_->setTitle(Napis(QStringLiteral("frmEdycjaTransakcji16")));
-  lblKontrahent_->setText(Napis(QStringLiteral("frmEdycjaTransakcji17")));
+  fraKontrahent_ = NowaRamkaWyboru(
+      QStringLiteral("fraKontrahent"), Napis(QStringLiteral("frmEdycjaTransakcji16")),
+      lblKontrahent_, QStringLiteral("lblKontrahent"),
+      Napis(QStringLiteral("frmEdycjaTransakcji17")), cmdWybierzKontrahenta_, this);
   connect(cmdWybierzKonto_, &QPushButton::clicked, this,
           &frmEdycjaTransakcji::cmdWybierzKonto_Click);
   connect(cmdWybierzKategorie_, &QPushButton::clicked, this,

@@ -28,23 +28,6 @@ QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzi
   return b;
 }
 
-QGroupBox* ramkaKonta(const QString& nazwa, const QString& tytul, QLabel*& etykieta,
-                      const QString& nazwaEtykiety, QPushButton* przycisk, QWidget* rodzic) {
-  auto* ramka = new QGroupBox(tytul, rodzic);
-  ramka->setObjectName(nazwa);
-  etykieta = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej9")), ramka);
-  etykieta->setObjectName(nazwaEtykiety);
-  etykieta->setMinimumWidth(320);
-  QFont f = etykieta->font();
-  f.setBold(true);
-  etykieta->setFont(f);
-  przycisk->setParent(ramka);
-  auto* uklad = new QHBoxLayout(ramka);
-  uklad->addWidget(etykieta, 1);
-  uklad->addWidget(przycisk);
-  return ramka;
-}
-
 }  // namespace
 
 frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent)
@@ -100,32 +83,16 @@ frmEdycjaTransakcjiWewnetrznej::~frmEdycjaTransakcjiWewnetrznej() {
 
 void frmEdycjaTransakcjiWewnetrznej::zbuduj() {
   setWindowIcon(IkonaWpisu(3));
-  auto* fraData = new QGroupBox(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej1")), this);
-  fraData->setObjectName(QStringLiteral("fraData"));
-  dtpData_ = NowePoleDaty(QStringLiteral("dtpData"), sesja.pubFiltrCzasowy.pozycja, fraData);
-  dtpData_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej2")));
-  auto* lblKwota = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej3")), fraData);
-  lblKwota->setObjectName(QStringLiteral("lblKwota"));
-  txtKwota_ = new QLineEdit(fraData);
-  txtKwota_->setObjectName(QStringLiteral("txtKwota"));
-  txtKwota_->setMaxLength(10);
-  txtKwota_->setFixedWidth(
-      txtKwota_->fontMetrics().horizontalAdvance(QStringLiteral("0000000000000")));
-  txtKwota_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej4")));
-  PoleKwoty::Podlacz(txtKwota_);
-  lblKwota->setBuddy(txtKwota_);
-  cmdKalkulator_ = new QToolButton(fraData);
-  cmdKalkulator_->setObjectName(QStringLiteral("cmdKalkulator"));
-  cmdKalkulator_->setText(QStringLiteral("..."));
-  cmdKalkulator_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej5")));
-  connect(cmdKalkulator_, &QToolButton::clicked, this,
-          [this] { PoleKwoty::Z(txtKwota_)->OtworzKalkulator(); });
-  auto* ukladDaty = new QHBoxLayout(fraData);
-  ukladDaty->addWidget(dtpData_);
-  ukladDaty->addStretch();
-  ukladDaty->addWidget(lblKwota);
-  ukladDaty->addWidget(txtKwota_);
-  ukladDaty->addWidget(cmdKalkulator_);
+  const RamkaDaty data = NowaRamkaDaty({Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej1")),
+                                        Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej2")),
+                                        Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej3")),
+                                        Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej4")),
+                                        Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej5"))},
+                                       this);
+  auto* fraData = data.ramka;
+  dtpData_ = data.data;
+  txtKwota_ = data.kwota;
+  cmdKalkulator_ = data.kalkulator;
 
   auto* lblOpis = new QLabel(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej6")), this);
   lblOpis->setObjectName(QStringLiteral("lblOpis"));
@@ -140,16 +107,17 @@ void frmEdycjaTransakcjiWewnetrznej::zbuduj() {
   cmdZKonta_ = przycisk(QStringLiteral("cmdZKonta"),
                         Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej10")), this);
   cmdZKonta_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej11")));
-  auto* fraZKonta = ramkaKonta(QStringLiteral("fraZKonta"),
-                               Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej8")), lblZKonta_,
-                               QStringLiteral("lblZKonta"), cmdZKonta_, this);
+  auto* fraZKonta = NowaRamkaWyboru(
+      QStringLiteral("fraZKonta"), Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej8")),
+      lblZKonta_, QStringLiteral("lblZKonta"),
+      Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej9")), cmdZKonta_, this);
   cmdNaKonto_ = przycisk(QStringLiteral("cmdNaKonto"),
                          Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej14")), this);
   cmdNaKonto_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej15")));
-  auto* fraNaKonto = ramkaKonta(QStringLiteral("fraNaKonto"),
-                                Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej12")),
-                                lblNaKonto_, QStringLiteral("lblNaKonto"), cmdNaKonto_, this);
-  lblNaKonto_->setText(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej13")));
+  auto* fraNaKonto = NowaRamkaWyboru(
+      QStringLiteral("fraNaKonto"), Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej12")),
+      lblNaKonto_, QStringLiteral("lblNaKonto"),
+      Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej13")), cmdNaKonto_, this);
   connect(cmdZKonta_, &QPushButton::clicked, this,
           &frmEdycjaTransakcjiWewnetrznej::cmdZKonta_Click);
   connect(cmdNaKonto_, &QPushButton::clicked, this,

@@ -27,24 +27,6 @@ QLabel* etykieta(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
   return l;
 }
 
-QLineEdit* poleKwoty(const QString& nazwa, QWidget* rodzic) {
-  auto* p = new QLineEdit(rodzic);
-  p->setObjectName(nazwa);
-  p->setAlignment(Qt::AlignRight);
-  p->setMaxLength(10);
-  p->setFixedWidth(110);
-  PoleKwoty::Podlacz(p);  // the keystroke rules of every amount field
-  return p;
-}
-
-QToolButton* przyciskKalkulatora(const QString& nazwa, QWidget* rodzic) {
-  auto* b = new QToolButton(rodzic);
-  b->setObjectName(nazwa);
-  b->setText(QStringLiteral("..."));
-  b->setToolTip(Napis(QStringLiteral("frmEdycjaKonta32")));
-  return b;
-}
-
 // Which of bowinien, boma and limit a kind uses: cash and deposits hold money only, cards and
 // loans only owe, a bank account and "other" may do both.
 struct PolaRodzaju {
@@ -119,15 +101,25 @@ frmEdycjaKonta::frmEdycjaKonta(QWidget* parent) : QDialog(parent), id_(sesja.pub
   lblMa_ = etykieta(QStringLiteral("lblMa"), Napis(QStringLiteral("frmEdycjaKonta7")), fraKwoty);
   lblLimit_ =
       etykieta(QStringLiteral("lblLimit"), Napis(QStringLiteral("frmEdycjaKonta8")), fraKwoty);
-  txtWinien_ = poleKwoty(QStringLiteral("txtWinien"), fraKwoty);
-  txtMa_ = poleKwoty(QStringLiteral("txtMa"), fraKwoty);
-  txtLimit_ = poleKwoty(QStringLiteral("txtLimit"), fraKwoty);
+  const auto kwota = [fraKwoty](const QString& nazwa, const QString& nazwaPrzycisku,
+                                QToolButton*& przycisk) {
+    const PoleZKalkulatorem p = PoleKwoty::NowePole(
+        nazwa, nazwaPrzycisku, Napis(QStringLiteral("frmEdycjaKonta32")), fraKwoty);
+    p.pole->setFixedWidth(110);
+    przycisk = p.kalkulator;
+    return p.pole;
+  };
+  txtWinien_ =
+      kwota(QStringLiteral("txtWinien"), QStringLiteral("cmdKalkulatorWn"), cmdKalkulatorWn_);
+  txtMa_ = kwota(QStringLiteral("txtMa"), QStringLiteral("cmdKalkulatorMa"), cmdKalkulatorMa_);
+  txtLimit_ =
+      kwota(QStringLiteral("txtLimit"), QStringLiteral("cmdKalkulatorLimit"), cmdKalkulatorLimit_);
+  // Tab walks the three amounts first, then their calculator buttons.
+  setTabOrder(txtWinien_, txtMa_);
+  setTabOrder(txtMa_, txtLimit_);
   lblWinien_->setBuddy(txtWinien_);
   lblMa_->setBuddy(txtMa_);
   lblLimit_->setBuddy(txtLimit_);
-  cmdKalkulatorWn_ = przyciskKalkulatora(QStringLiteral("cmdKalkulatorWn"), fraKwoty);
-  cmdKalkulatorMa_ = przyciskKalkulatora(QStringLiteral("cmdKalkulatorMa"), fraKwoty);
-  cmdKalkulatorLimit_ = przyciskKalkulatora(QStringLiteral("cmdKalkulatorLimit"), fraKwoty);
   auto* ukladKwot = new QGridLayout(fraKwoty);
   ukladKwot->addWidget(lblWinien_, 0, 0);
   ukladKwot->addWidget(txtWinien_, 0, 1);
@@ -139,9 +131,6 @@ frmEdycjaKonta::frmEdycjaKonta(QWidget* parent) : QDialog(parent), id_(sesja.pub
   ukladKwot->addWidget(txtLimit_, 2, 1);
   ukladKwot->addWidget(cmdKalkulatorLimit_, 2, 2);
   ukladKwot->setColumnStretch(0, 1);
-  connect(cmdKalkulatorWn_, &QToolButton::clicked, this, [this] { Kalkulator(txtWinien_); });
-  connect(cmdKalkulatorMa_, &QToolButton::clicked, this, [this] { Kalkulator(txtMa_); });
-  connect(cmdKalkulatorLimit_, &QToolButton::clicked, this, [this] { Kalkulator(txtLimit_); });
 
   auto* lblData =
       etykieta(QStringLiteral("lblData"), Napis(QStringLiteral("frmEdycjaKonta9")), this);
@@ -244,8 +233,4 @@ void frmEdycjaKonta::cmdOK_Click() {
   // The browser behind selects the new account after its refill.
   if (id_ == 0 && nowy) sesja.pubKonto.id = nowy;
   accept();
-}
-
-void frmEdycjaKonta::Kalkulator(QLineEdit* pole) {
-  if (PoleKwoty* p = PoleKwoty::Z(pole)) p->OtworzKalkulator();
 }

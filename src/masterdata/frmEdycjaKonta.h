@@ -20,7 +20,6 @@ class frmEdycjaKonta : public QDialog {
  private:
   void UstawPola();  // which amount fields the chosen kind uses
   void cmdOK_Click();
-  void Kalkulator(QLineEdit* pole);
 
   QLineEdit* txtNazwa_;
   QLineEdit* txtOpis_;

@@ -6,13 +6,11 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
-#include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -23,6 +21,7 @@
 #include "masterdata/frmEdycjaKategorii.h"
 #include "masterdata/frmLimitDlaKategorii.h"
 #include "masterdata/kategorie.h"
+#include "masterdata/przegladarka_gui.h"
 #include "masterdata/przyciskifiltra_gui.h"
 #include "masterdata/wyszukiwanie_gui.h"
 #include "reports/wykresy_gui.h"
@@ -37,6 +36,7 @@ constexpr int RolaKlucza = Qt::UserRole;
 // The search walks the categories: every node behind Root.
 constexpr int PierwszyDoSzukania = 2;
 constexpr int SzerokoscSzczegolow = 440;
+constexpr WymiarySzczegolow Wymiary{380, SzerokoscSzczegolow, 600};
 
 // Screens of other parts that this browser opens are reached by name through the command table;
 // a button whose screen is not in the program stays off.
@@ -87,26 +87,6 @@ QPixmap obrazekLimitu(bool przekroczony) {
   return p;
 }
 
-QLabel* etykieta(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* l = new QLabel(tekst, rodzic);
-  if (!nazwa.isEmpty()) l->setObjectName(nazwa);
-  return l;
-}
-
-QLabel* wartosc(const QString& nazwa, QWidget* rodzic) {
-  auto* l = etykieta(nazwa, QString(), rodzic);
-  l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  l->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  return l;
-}
-
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
-
 QAction* akcja(QMenu* menu, const QString& nazwa, const QKeySequence& skrot) {
   QAction* a = menu->addAction(QString());
   a->setObjectName(nazwa);
@@ -131,17 +111,7 @@ frmPrzegladKategorii::frmPrzegladKategorii(QWidget* parent) : QDialog(parent) {
   cmdWybierz_->setText(sesja.pubEdytorOtwarty ? Napis(QStringLiteral("frmPrzegladKategorii64"))
                                               : Napis(QStringLiteral("frmPrzegladKategorii65")));
   ustawSzczegoly();
-  if (sesja.pubPozycjaX >= 0 && sesja.pubPozycjaY >= 0) {
-    QRect r(QPoint(sesja.pubPozycjaX, sesja.pubPozycjaY), size());
-    if (QScreen* ekran = screen()) {
-      const QRect dostepne = ekran->availableGeometry();
-      r.moveRight(std::min(r.right(), dostepne.right()));
-      r.moveBottom(std::min(r.bottom(), dostepne.bottom()));
-      r.moveLeft(std::max(r.left(), dostepne.left()));
-      r.moveTop(std::max(r.top(), dostepne.top()));
-    }
-    move(r.topLeft());
-  }
+  UstawPozycjePrzegladarki(this);
   WypelnijDrzewo();
   tvwKategorie_->setFocus();
 }
@@ -218,14 +188,14 @@ void frmPrzegladKategorii::zbuduj() {
   cmdMenu_[7]->setEnabled(MaPolecenie(EkranPomocy));
 
   // The search.
-  auto* lblKlucz =
-      etykieta(QStringLiteral("lblKlucz"), Napis(QStringLiteral("frmPrzegladKategorii3")), this);
+  auto* lblKlucz = EtykietaPrzegladarki(QStringLiteral("lblKlucz"),
+                                        Napis(QStringLiteral("frmPrzegladKategorii3")), this);
   txtKlucz_ = new QLineEdit(this);
   txtKlucz_->setObjectName(QStringLiteral("txtKlucz"));
   txtKlucz_->setClearButtonEnabled(true);
   lblKlucz->setBuddy(txtKlucz_);
-  cmdNastepny_ =
-      przycisk(QStringLiteral("cmdNastepny"), Napis(QStringLiteral("frmPrzegladKategorii4")), this);
+  cmdNastepny_ = PrzyciskPrzegladarki(QStringLiteral("cmdNastepny"),
+                                      Napis(QStringLiteral("frmPrzegladKategorii4")), this);
 
   // The tree.
   tvwKategorie_ = new QTreeWidget(this);
@@ -234,7 +204,8 @@ void frmPrzegladKategorii::zbuduj() {
   tvwKategorie_->setColumnCount(1);
   tvwKategorie_->setExpandsOnDoubleClick(false);
   tvwKategorie_->setContextMenuPolicy(Qt::CustomContextMenu);
-  tvwKategorie_->installEventFilter(this);
+  new KlawiszePrzegladarki(
+      tvwKategorie_, [this] { SkasujKategorie(); }, [this] { cmdWybierz_Click(); });
   tvwKategorie_->setMinimumHeight(260);
   connect(tvwKategorie_, &QTreeWidget::currentItemChanged, this, [this] { PokazWezel(); });
   connect(tvwKategorie_, &QTreeWidget::itemDoubleClicked, this, [this] { cmdWybierz_Click(); });
@@ -248,29 +219,34 @@ void frmPrzegladKategorii::zbuduj() {
   fraLimityMain_->setObjectName(QStringLiteral("fraLimityMain"));
   auto* ukladLimitu = new QGridLayout(fraLimityMain_);
   for (int i = 0; i < 2; ++i) {
-    imgLimit_[i] = etykieta(QStringLiteral("imgLimit(%1)").arg(i), QString(), fraLimityMain_);
+    imgLimit_[i] =
+        EtykietaPrzegladarki(QStringLiteral("imgLimit(%1)").arg(i), QString(), fraLimityMain_);
     imgLimit_[i]->setPixmap(obrazekLimitu(i == 1));
     ukladLimitu->addWidget(imgLimit_[i], 0, 0, 2, 1, Qt::AlignTop);
   }
   ukladLimitu->addWidget(
-      etykieta(QString(), Napis(QStringLiteral("frmPrzegladKategorii9")), fraLimityMain_), 0, 1);
-  lblWykorzystanoMain_ = etykieta(QStringLiteral("lblWykorzystanoMain"), QString(), fraLimityMain_);
+      EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKategorii9")),
+                           fraLimityMain_),
+      0, 1);
+  lblWykorzystanoMain_ =
+      EtykietaPrzegladarki(QStringLiteral("lblWykorzystanoMain"), QString(), fraLimityMain_);
   ukladLimitu->addWidget(lblWykorzystanoMain_, 0, 2);
-  lblKomentarzLimit_ = etykieta(QStringLiteral("lblKomentarzLimit"), QString(), fraLimityMain_);
+  lblKomentarzLimit_ =
+      EtykietaPrzegladarki(QStringLiteral("lblKomentarzLimit"), QString(), fraLimityMain_);
   ukladLimitu->addWidget(lblKomentarzLimit_, 1, 1, 1, 2);
   ukladLimitu->setColumnStretch(2, 1);
 
-  auto* cmdRozwin =
-      przycisk(QStringLiteral("cmdRozwin"), Napis(QStringLiteral("frmPrzegladKategorii5")), this);
-  auto* cmdZwin =
-      przycisk(QStringLiteral("cmdZwin"), Napis(QStringLiteral("frmPrzegladKategorii6")), this);
+  auto* cmdRozwin = PrzyciskPrzegladarki(QStringLiteral("cmdRozwin"),
+                                         Napis(QStringLiteral("frmPrzegladKategorii5")), this);
+  auto* cmdZwin = PrzyciskPrzegladarki(QStringLiteral("cmdZwin"),
+                                       Napis(QStringLiteral("frmPrzegladKategorii6")), this);
   connect(cmdRozwin, &QPushButton::clicked, this, &frmPrzegladKategorii::cmdRozwin_Click);
   connect(cmdZwin, &QPushButton::clicked, this, &frmPrzegladKategorii::cmdZwin_Click);
-  cmdWybierz_ = przycisk(QStringLiteral("cmdWybierz"), QString(), this);
+  cmdWybierz_ = PrzyciskPrzegladarki(QStringLiteral("cmdWybierz"), QString(), this);
   cmdWybierz_->setDefault(true);
-  cmdAnuluj_ =
-      przycisk(QStringLiteral("cmdAnuluj"), Napis(QStringLiteral("frmPrzegladKategorii7")), this);
-  cmdSzczegoly_ = przycisk(QStringLiteral("cmdSzczegoly"), QString(), this);
+  cmdAnuluj_ = PrzyciskPrzegladarki(QStringLiteral("cmdAnuluj"),
+                                    Napis(QStringLiteral("frmPrzegladKategorii7")), this);
+  cmdSzczegoly_ = PrzyciskPrzegladarki(QStringLiteral("cmdSzczegoly"), QString(), this);
   connect(cmdWybierz_, &QPushButton::clicked, this, &frmPrzegladKategorii::cmdWybierz_Click);
   connect(cmdAnuluj_, &QPushButton::clicked, this, &frmPrzegladKategorii::reject);
   connect(cmdSzczegoly_, &QPushButton::clicked, this, &frmPrzegladKategorii::cmdSzczegoly_Click);
@@ -331,33 +307,36 @@ QWidget* frmPrzegladKategorii::zbudujSzczegoly() {
   filtr_ = new PrzyciskiFiltra(s, 2);
   filtr_->Zakres()->setText(Napis(QStringLiteral("frmPrzegladKategorii24")));
   connect(filtr_, &PrzyciskiFiltra::zmieniony, this, &frmPrzegladKategorii::PokazWezel);
-  lblOkres_ = etykieta(QStringLiteral("lblOkres"), QString(), s);
+  lblOkres_ = EtykietaPrzegladarki(QStringLiteral("lblOkres"), QString(), s);
   lblOkres_->setWordWrap(true);
   QFont pogrubiona = lblOkres_->font();
   pogrubiona.setBold(true);
   lblOkres_->setFont(pogrubiona);
 
   auto* suma = new QGridLayout;
-  lblSuma_ = wartosc(QStringLiteral("lblSuma"), s);
-  suma->addWidget(etykieta(QString(), Napis(QStringLiteral("frmPrzegladKategorii10")), s), 0, 0);
+  lblSuma_ = WartoscPrzegladarki(QStringLiteral("lblSuma"), s);
+  suma->addWidget(
+      EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKategorii10")), s), 0, 0);
   suma->addWidget(lblSuma_, 0, 1);
   suma->setColumnStretch(0, 1);
 
   // A leaf: its limit.
   fraLimity_ = new QGroupBox(Napis(QStringLiteral("frmPrzegladKategorii11")), s);
   fraLimity_->setObjectName(QStringLiteral("fraLimity"));
-  auto* lbl1 =
-      etykieta(QStringLiteral("lbl1"), Napis(QStringLiteral("frmPrzegladKategorii12")), fraLimity_);
-  lbl2_ =
-      etykieta(QStringLiteral("lbl2"), Napis(QStringLiteral("frmPrzegladKategorii13")), fraLimity_);
-  lbl3_ =
-      etykieta(QStringLiteral("lbl3"), Napis(QStringLiteral("frmPrzegladKategorii14")), fraLimity_);
-  lbl4_ = etykieta(QStringLiteral("lbl4"), QString(), fraLimity_);
-  lblLimit_ = wartosc(QStringLiteral("lblLimit"), fraLimity_);
-  lblWykorzystano_ = wartosc(QStringLiteral("lblWykorzystano"), fraLimity_);
-  lblPozostajeDoWykorzystania_ = wartosc(QStringLiteral("lblPozostajeDoWykorzystania"), fraLimity_);
-  lblProcentWykorzystania_ = wartosc(QStringLiteral("lblProcentWykorzystania"), fraLimity_);
-  cmdZmienLimit_ = przycisk(QStringLiteral("cmdZmienLimit"), QString(), fraLimity_);
+  auto* lbl1 = EtykietaPrzegladarki(QStringLiteral("lbl1"),
+                                    Napis(QStringLiteral("frmPrzegladKategorii12")), fraLimity_);
+  lbl2_ = EtykietaPrzegladarki(QStringLiteral("lbl2"),
+                               Napis(QStringLiteral("frmPrzegladKategorii13")), fraLimity_);
+  lbl3_ = EtykietaPrzegladarki(QStringLiteral("lbl3"),
+                               Napis(QStringLiteral("frmPrzegladKategorii14")), fraLimity_);
+  lbl4_ = EtykietaPrzegladarki(QStringLiteral("lbl4"), QString(), fraLimity_);
+  lblLimit_ = WartoscPrzegladarki(QStringLiteral("lblLimit"), fraLimity_);
+  lblWykorzystano_ = WartoscPrzegladarki(QStringLiteral("lblWykorzystano"), fraLimity_);
+  lblPozostajeDoWykorzystania_ =
+      WartoscPrzegladarki(QStringLiteral("lblPozostajeDoWykorzystania"), fraLimity_);
+  lblProcentWykorzystania_ =
+      WartoscPrzegladarki(QStringLiteral("lblProcentWykorzystania"), fraLimity_);
+  cmdZmienLimit_ = PrzyciskPrzegladarki(QStringLiteral("cmdZmienLimit"), QString(), fraLimity_);
   connect(cmdZmienLimit_, &QPushButton::clicked, this, &frmPrzegladKategorii::cmdZmienLimit_Click);
   auto* ukladLimitow = new QGridLayout(fraLimity_);
   const std::pair<QLabel*, QLabel*> wiersze[] = {{lbl1, lblLimit_},
@@ -397,23 +376,25 @@ QWidget* frmPrzegladKategorii::zbudujSzczegoly() {
   ukladPodkategorii->addWidget(mscWykres_, 2);
 
   auto* razem = new QGridLayout;
-  lblSumaPod_ = wartosc(QStringLiteral("lblSumaPod"), s);
-  lblRazem_ = wartosc(QStringLiteral("lblRazem"), s);
+  lblSumaPod_ = WartoscPrzegladarki(QStringLiteral("lblSumaPod"), s);
+  lblRazem_ = WartoscPrzegladarki(QStringLiteral("lblRazem"), s);
   lblRazem_->setFont(pogrubiona);
-  razem->addWidget(etykieta(QString(), Napis(QStringLiteral("frmPrzegladKategorii18")), s), 0, 0);
+  razem->addWidget(
+      EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKategorii18")), s), 0, 0);
   razem->addWidget(lblSumaPod_, 0, 1);
-  razem->addWidget(etykieta(QString(), Napis(QStringLiteral("frmPrzegladKategorii19")), s), 1, 0);
+  razem->addWidget(
+      EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKategorii19")), s), 1, 0);
   razem->addWidget(lblRazem_, 1, 1);
   razem->setColumnStretch(0, 1);
 
-  cmdPrzeglad_ =
-      przycisk(QStringLiteral("cmdPrzeglad"), Napis(QStringLiteral("frmPrzegladKategorii20")), s);
-  cmdRaportDetaliczny_ = przycisk(QStringLiteral("cmdRaportDetaliczny"),
-                                  Napis(QStringLiteral("frmPrzegladKategorii21")), s);
-  cmdRaportZbiorczy_ = przycisk(QStringLiteral("cmdRaportZbiorczy"),
-                                Napis(QStringLiteral("frmPrzegladKategorii22")), s);
-  cmdWCzasie_ =
-      przycisk(QStringLiteral("cmdWCzasie"), Napis(QStringLiteral("frmPrzegladKategorii23")), s);
+  cmdPrzeglad_ = PrzyciskPrzegladarki(QStringLiteral("cmdPrzeglad"),
+                                      Napis(QStringLiteral("frmPrzegladKategorii20")), s);
+  cmdRaportDetaliczny_ = PrzyciskPrzegladarki(QStringLiteral("cmdRaportDetaliczny"),
+                                              Napis(QStringLiteral("frmPrzegladKategorii21")), s);
+  cmdRaportZbiorczy_ = PrzyciskPrzegladarki(QStringLiteral("cmdRaportZbiorczy"),
+                                            Napis(QStringLiteral("frmPrzegladKategorii22")), s);
+  cmdWCzasie_ = PrzyciskPrzegladarki(QStringLiteral("cmdWCzasie"),
+                                     Napis(QStringLiteral("frmPrzegladKategorii23")), s);
   connect(cmdPrzeglad_, &QPushButton::clicked, this, &frmPrzegladKategorii::cmdPrzeglad_Click);
   connect(cmdRaportDetaliczny_, &QPushButton::clicked, this, [this] { cmdRaport_Click(true); });
   connect(cmdRaportZbiorczy_, &QPushButton::clicked, this, [this] { cmdRaport_Click(false); });
@@ -556,14 +537,9 @@ void frmPrzegladKategorii::pokazSzczegoly(QTreeWidgetItem* item, const QString& 
 }
 
 void frmPrzegladKategorii::ustawSzczegoly() {
-  const bool otwarte = sesja.pubSzczegoly == 1;
-  frmSzczegoly_->setVisible(otwarte);
-  cmdSzczegoly_->setText(
-      otwarte ? QStringLiteral("<<  ") + Napis(QStringLiteral("frmPrzegladKategorii51"))
-              : Napis(QStringLiteral("frmPrzegladKategorii52")) + QStringLiteral(" >>"));
-  const int szerokosc = szerokoscWaska_ + (otwarte ? SzerokoscSzczegolow + 10 : 0);
-  setMinimumWidth(otwarte ? 380 + SzerokoscSzczegolow : 380);
-  resize(szerokosc, std::max(height(), 600));
+  PokazSzczegolyPrzegladarki(
+      this, frmSzczegoly_, cmdSzczegoly_, Napis(QStringLiteral("frmPrzegladKategorii51")),
+      Napis(QStringLiteral("frmPrzegladKategorii52")), Wymiary, szerokoscWaska_);
 }
 
 void frmPrzegladKategorii::ustawPolecenia() {
@@ -712,11 +688,7 @@ void frmPrzegladKategorii::cmdZmienLimit_Click() {
 }
 
 void frmPrzegladKategorii::cmdSzczegoly_Click() {
-  sesja.pubSzczegoly = sesja.pubSzczegoly == 1 ? 0 : 1;
-  if (sesja.pubSzczegoly == 1)
-    szerokoscWaska_ = width();
-  else
-    szerokoscWaska_ = std::max(380, width() - SzerokoscSzczegolow - 10);
+  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, Wymiary);
   ustawSzczegoly();
   PokazWezel();
 }
@@ -744,23 +716,6 @@ void frmPrzegladKategorii::menuKontekstowe(const QPoint& gdzie) {
   QPoint punkt = gdzie;
   if (!tvwKategorie_->itemAt(gdzie)) punkt = tvwKategorie_->visualItemRect(item).bottomLeft();
   menu_->popup(tvwKategorie_->viewport()->mapToGlobal(punkt));
-}
-
-bool frmPrzegladKategorii::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
-  if (obiekt == tvwKategorie_ && zdarzenie->type() == QEvent::KeyPress) {
-    switch (static_cast<QKeyEvent*>(zdarzenie)->key()) {
-      case Qt::Key_Delete:
-        SkasujKategorie();
-        return true;
-      case Qt::Key_Return:
-      case Qt::Key_Enter:
-        cmdWybierz_Click();
-        return true;
-      default:
-        break;
-    }
-  }
-  return QDialog::eventFilter(obiekt, zdarzenie);
 }
 
 // ---- the entries and reports of a node -------------------------------------------------------

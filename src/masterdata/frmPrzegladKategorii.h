@@ -51,9 +51,6 @@ class frmPrzegladKategorii : public QDialog {
   // cmdAnuluj, Esc and the close box: all four fields of the record go back to their load state.
   void reject() override;
 
- protected:
-  bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
-
  private:
   void zbuduj();
   QWidget* zbudujSzczegoly();

@@ -5,13 +5,11 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
-#include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -19,6 +17,7 @@
 
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/konta.h"
+#include "masterdata/przegladarka_gui.h"
 #include "masterdata/przyciskifiltra_gui.h"
 #include "masterdata/wyszukiwanie_gui.h"
 #include "reports/wykresy_gui.h"
@@ -34,6 +33,7 @@ constexpr int RolaLimitu = Qt::UserRole + 1;  // the Tag: the account's limit; e
 // The walk of the search starts at the first account: behind the root and the six kinds.
 constexpr int PierwszyDoSzukania = 8;
 constexpr int SzerokoscSzczegolow = 430;
+constexpr WymiarySzczegolow Wymiary{360, SzerokoscSzczegolow, 560};
 
 // The screens this browser opens for a node: the entry and transfer lists and the two account
 // reports. They belong to other parts of the program and are shown modally.
@@ -69,25 +69,6 @@ QPixmap obrazekLimitu(int stan) {
   return p;
 }
 
-QLabel* etykieta(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* l = new QLabel(tekst, rodzic);
-  if (!nazwa.isEmpty()) l->setObjectName(nazwa);
-  return l;
-}
-
-QLabel* wartosc(const QString& nazwa, QWidget* rodzic) {
-  auto* l = etykieta(nazwa, QString(), rodzic);
-  l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  l->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  return l;
-}
-
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
 }  // namespace
 
 frmPrzegladKont::frmPrzegladKont(QWidget* parent) : QDialog(parent) {
@@ -120,17 +101,7 @@ frmPrzegladKont::frmPrzegladKont(QWidget* parent) : QDialog(parent) {
                            ? Napis(QStringLiteral("frmPrzegladKont78"))
                            : Napis(QStringLiteral("frmPrzegladKont79")));
   ustawSzczegoly();
-  if (sesja.pubPozycjaX >= 0 && sesja.pubPozycjaY >= 0) {
-    QRect r(QPoint(sesja.pubPozycjaX, sesja.pubPozycjaY), size());
-    if (QScreen* ekran = screen()) {
-      const QRect dostepne = ekran->availableGeometry();
-      r.moveRight(std::min(r.right(), dostepne.right()));
-      r.moveBottom(std::min(r.bottom(), dostepne.bottom()));
-      r.moveLeft(std::max(r.left(), dostepne.left()));
-      r.moveTop(std::max(r.top(), dostepne.top()));
-    }
-    move(r.topLeft());
-  }
+  UstawPozycjePrzegladarki(this);
   WypelnijDrzewo();
   tvwKonta_->setFocus();
 }
@@ -173,14 +144,14 @@ void frmPrzegladKont::zbuduj() {
   connect(cmdMenu_[6], &QToolButton::clicked, this, &frmPrzegladKont::cmdWCzasie_Click);
 
   // The search.
-  auto* lblKlucz =
-      etykieta(QStringLiteral("lblKlucz"), Napis(QStringLiteral("frmPrzegladKont2")), this);
+  auto* lblKlucz = EtykietaPrzegladarki(QStringLiteral("lblKlucz"),
+                                        Napis(QStringLiteral("frmPrzegladKont2")), this);
   txtKlucz_ = new QLineEdit(this);
   txtKlucz_->setObjectName(QStringLiteral("txtKlucz"));
   txtKlucz_->setClearButtonEnabled(true);
   lblKlucz->setBuddy(txtKlucz_);
-  cmdNastepny_ =
-      przycisk(QStringLiteral("cmdNastepny"), Napis(QStringLiteral("frmPrzegladKont3")), this);
+  cmdNastepny_ = PrzyciskPrzegladarki(QStringLiteral("cmdNastepny"),
+                                      Napis(QStringLiteral("frmPrzegladKont3")), this);
 
   // The tree.
   tvwKonta_ = new QTreeWidget(this);
@@ -188,7 +159,8 @@ void frmPrzegladKont::zbuduj() {
   tvwKonta_->setHeaderHidden(true);
   tvwKonta_->setColumnCount(1);
   tvwKonta_->setContextMenuPolicy(Qt::CustomContextMenu);
-  tvwKonta_->installEventFilter(this);
+  new KlawiszePrzegladarki(
+      tvwKonta_, [this] { SkasujKonto(); }, [this] { cmdWybierz_Click(); });
   tvwKonta_->setMinimumHeight(240);
   connect(tvwKonta_, &QTreeWidget::currentItemChanged, this, [this] { PokazWezel(); });
   connect(tvwKonta_, &QTreeWidget::itemDoubleClicked, this, [this] { cmdWybierz_Click(); });
@@ -201,11 +173,12 @@ void frmPrzegladKont::zbuduj() {
   // The balance and the limit of an account.
   fraLimityMain_ = new QGroupBox(Napis(QStringLiteral("frmPrzegladKont26")), this);
   fraLimityMain_->setObjectName(QStringLiteral("fraLimityMain"));
-  lblMainLimit_ = etykieta(QStringLiteral("lblMainLimit"), QString(), fraLimityMain_);
-  lblMainSaldo_ = etykieta(QStringLiteral("lblMainSaldo"), QString(), fraLimityMain_);
+  lblMainLimit_ = EtykietaPrzegladarki(QStringLiteral("lblMainLimit"), QString(), fraLimityMain_);
+  lblMainSaldo_ = EtykietaPrzegladarki(QStringLiteral("lblMainSaldo"), QString(), fraLimityMain_);
   auto* ukladLimitu = new QGridLayout(fraLimityMain_);
   for (int i = 0; i < 3; ++i) {
-    imgLimit_[i] = etykieta(QStringLiteral("imgLimit(%1)").arg(i), QString(), fraLimityMain_);
+    imgLimit_[i] =
+        EtykietaPrzegladarki(QStringLiteral("imgLimit(%1)").arg(i), QString(), fraLimityMain_);
     imgLimit_[i]->setPixmap(obrazekLimitu(i));
     ukladLimitu->addWidget(imgLimit_[i], 1, 0);
   }
@@ -213,17 +186,17 @@ void frmPrzegladKont::zbuduj() {
   ukladLimitu->addWidget(lblMainSaldo_, 1, 1);
   ukladLimitu->setColumnStretch(1, 1);
 
-  auto* cmdRozwin =
-      przycisk(QStringLiteral("cmdRozwin"), Napis(QStringLiteral("frmPrzegladKont5")), this);
-  auto* cmdZwin =
-      przycisk(QStringLiteral("cmdZwin"), Napis(QStringLiteral("frmPrzegladKont6")), this);
+  auto* cmdRozwin = PrzyciskPrzegladarki(QStringLiteral("cmdRozwin"),
+                                         Napis(QStringLiteral("frmPrzegladKont5")), this);
+  auto* cmdZwin = PrzyciskPrzegladarki(QStringLiteral("cmdZwin"),
+                                       Napis(QStringLiteral("frmPrzegladKont6")), this);
   connect(cmdRozwin, &QPushButton::clicked, this, &frmPrzegladKont::cmdRozwin_Click);
   connect(cmdZwin, &QPushButton::clicked, this, &frmPrzegladKont::cmdZwin_Click);
-  cmdWybierz_ = przycisk(QStringLiteral("cmdWybierz"), QString(), this);
+  cmdWybierz_ = PrzyciskPrzegladarki(QStringLiteral("cmdWybierz"), QString(), this);
   cmdWybierz_->setDefault(true);
-  cmdAnuluj_ =
-      przycisk(QStringLiteral("cmdAnuluj"), Napis(QStringLiteral("frmPrzegladKont4")), this);
-  cmdSzczegoly_ = przycisk(QStringLiteral("cmdSzczegoly"), QString(), this);
+  cmdAnuluj_ = PrzyciskPrzegladarki(QStringLiteral("cmdAnuluj"),
+                                    Napis(QStringLiteral("frmPrzegladKont4")), this);
+  cmdSzczegoly_ = PrzyciskPrzegladarki(QStringLiteral("cmdSzczegoly"), QString(), this);
   connect(cmdWybierz_, &QPushButton::clicked, this, &frmPrzegladKont::cmdWybierz_Click);
   connect(cmdAnuluj_, &QPushButton::clicked, this, &frmPrzegladKont::reject);
   connect(cmdSzczegoly_, &QPushButton::clicked, this, &frmPrzegladKont::cmdSzczegoly_Click);
@@ -232,7 +205,7 @@ void frmPrzegladKont::zbuduj() {
   frmSzczegoly_ = new QGroupBox(this);
   frmSzczegoly_->setObjectName(QStringLiteral("frmSzczegoly"));
   frmSzczegoly_->setFixedWidth(SzerokoscSzczegolow);
-  lblOkres_ = etykieta(QStringLiteral("lblOkres"), QString(), frmSzczegoly_);
+  lblOkres_ = EtykietaPrzegladarki(QStringLiteral("lblOkres"), QString(), frmSzczegoly_);
   lblOkres_->setWordWrap(true);
   QFont pogrubiona = lblOkres_->font();
   pogrubiona.setBold(true);
@@ -242,30 +215,36 @@ void frmPrzegladKont::zbuduj() {
   connect(filtr_, &PrzyciskiFiltra::zmieniony, this, &frmPrzegladKont::PokazWezel);
 
   auto* sumy = new QGridLayout;
-  lblKiedy_ = etykieta(QStringLiteral("lblKiedy"), Napis(QStringLiteral("frmPrzegladKont35")),
-                       frmSzczegoly_);
-  lblBO_ = wartosc(QStringLiteral("lblBO"), frmSzczegoly_);
-  lblPoczatek_ = wartosc(QStringLiteral("lblPoczatek"), frmSzczegoly_);
-  lblPrzychody_ = wartosc(QStringLiteral("lblPrzychody"), frmSzczegoly_);
-  lblWydatki_ = wartosc(QStringLiteral("lblWydatki"), frmSzczegoly_);
-  lblWewnetrznePrzychody_ = wartosc(QStringLiteral("lblWewnetrznePrzychody"), frmSzczegoly_);
-  lblWewnetrzneWydatki_ = wartosc(QStringLiteral("lblWewnetrzneWydatki"), frmSzczegoly_);
-  lblBZ_ = wartosc(QStringLiteral("lblBZ"), frmSzczegoly_);
-  lblZmiana_ = wartosc(QStringLiteral("lblZmiana"), frmSzczegoly_);
-  lblProcent_ = wartosc(QStringLiteral("lblProcent"), frmSzczegoly_);
+  lblKiedy_ = EtykietaPrzegladarki(QStringLiteral("lblKiedy"),
+                                   Napis(QStringLiteral("frmPrzegladKont35")), frmSzczegoly_);
+  lblBO_ = WartoscPrzegladarki(QStringLiteral("lblBO"), frmSzczegoly_);
+  lblPoczatek_ = WartoscPrzegladarki(QStringLiteral("lblPoczatek"), frmSzczegoly_);
+  lblPrzychody_ = WartoscPrzegladarki(QStringLiteral("lblPrzychody"), frmSzczegoly_);
+  lblWydatki_ = WartoscPrzegladarki(QStringLiteral("lblWydatki"), frmSzczegoly_);
+  lblWewnetrznePrzychody_ =
+      WartoscPrzegladarki(QStringLiteral("lblWewnetrznePrzychody"), frmSzczegoly_);
+  lblWewnetrzneWydatki_ =
+      WartoscPrzegladarki(QStringLiteral("lblWewnetrzneWydatki"), frmSzczegoly_);
+  lblBZ_ = WartoscPrzegladarki(QStringLiteral("lblBZ"), frmSzczegoly_);
+  lblZmiana_ = WartoscPrzegladarki(QStringLiteral("lblZmiana"), frmSzczegoly_);
+  lblProcent_ = WartoscPrzegladarki(QStringLiteral("lblProcent"), frmSzczegoly_);
   const std::pair<QLabel*, QLabel*> wiersze[] = {
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont27")), frmSzczegoly_), lblBO_},
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont27")), frmSzczegoly_),
+       lblBO_},
       {lblKiedy_, lblPoczatek_},
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont28")), frmSzczegoly_),
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont28")), frmSzczegoly_),
        lblPrzychody_},
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont29")), frmSzczegoly_), lblWydatki_},
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont30")), frmSzczegoly_),
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont29")), frmSzczegoly_),
+       lblWydatki_},
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont30")), frmSzczegoly_),
        lblWewnetrznePrzychody_},
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont31")), frmSzczegoly_),
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont31")), frmSzczegoly_),
        lblWewnetrzneWydatki_},
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont32")), frmSzczegoly_), lblBZ_},
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont33")), frmSzczegoly_), lblZmiana_},
-      {etykieta(QString(), Napis(QStringLiteral("frmPrzegladKont34")), frmSzczegoly_),
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont32")), frmSzczegoly_),
+       lblBZ_},
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont33")), frmSzczegoly_),
+       lblZmiana_},
+      {EtykietaPrzegladarki(QString(), Napis(QStringLiteral("frmPrzegladKont34")), frmSzczegoly_),
        lblProcent_}};
   int w = 0;
   for (const auto& [opis, liczba] : wiersze) {
@@ -280,10 +259,10 @@ void frmPrzegladKont::zbuduj() {
   chartBilanse_ = NowyWykres(QStringLiteral("chartBilanse"), frmSzczegoly_);
   chartObroty_ = NowyWykres(QStringLiteral("chartObroty"), frmSzczegoly_);
   auto* wykresy = new QGridLayout;
-  auto* lblBilanse = etykieta(QStringLiteral("lblBilanse"),
-                              Napis(QStringLiteral("frmPrzegladKont36")), frmSzczegoly_);
-  auto* lblObroty = etykieta(QStringLiteral("lblObroty"),
-                             Napis(QStringLiteral("frmPrzegladKont37")), frmSzczegoly_);
+  auto* lblBilanse = EtykietaPrzegladarki(
+      QStringLiteral("lblBilanse"), Napis(QStringLiteral("frmPrzegladKont36")), frmSzczegoly_);
+  auto* lblObroty = EtykietaPrzegladarki(QStringLiteral("lblObroty"),
+                                         Napis(QStringLiteral("frmPrzegladKont37")), frmSzczegoly_);
   lblBilanse->setAlignment(Qt::AlignCenter);
   lblObroty->setAlignment(Qt::AlignCenter);
   wykresy->addWidget(lblBilanse, 0, 0);
@@ -292,16 +271,19 @@ void frmPrzegladKont::zbuduj() {
   wykresy->addWidget(chartObroty_, 1, 1);
   wykresy->setRowStretch(1, 1);
 
-  cmdPrzeglad_ = przycisk(QStringLiteral("cmdPrzeglad"), Napis(QStringLiteral("frmPrzegladKont7")),
-                          frmSzczegoly_);
-  cmdPrzegladWewnetrznych_ = przycisk(QStringLiteral("cmdPrzegladWewnetrznych"),
-                                      Napis(QStringLiteral("frmPrzegladKont8")), frmSzczegoly_);
-  auto* cmdRaportDetaliczny = przycisk(QStringLiteral("cmdRaportDetaliczny"),
-                                       Napis(QStringLiteral("frmPrzegladKont9")), frmSzczegoly_);
-  auto* cmdRaportZbiorczy = przycisk(QStringLiteral("cmdRaportZbiorczy"),
-                                     Napis(QStringLiteral("frmPrzegladKont10")), frmSzczegoly_);
-  auto* cmdWCzasie = przycisk(QStringLiteral("cmdWCzasie"),
-                              Napis(QStringLiteral("frmPrzegladKont11")), frmSzczegoly_);
+  cmdPrzeglad_ = PrzyciskPrzegladarki(QStringLiteral("cmdPrzeglad"),
+                                      Napis(QStringLiteral("frmPrzegladKont7")), frmSzczegoly_);
+  cmdPrzegladWewnetrznych_ =
+      PrzyciskPrzegladarki(QStringLiteral("cmdPrzegladWewnetrznych"),
+                           Napis(QStringLiteral("frmPrzegladKont8")), frmSzczegoly_);
+  auto* cmdRaportDetaliczny =
+      PrzyciskPrzegladarki(QStringLiteral("cmdRaportDetaliczny"),
+                           Napis(QStringLiteral("frmPrzegladKont9")), frmSzczegoly_);
+  auto* cmdRaportZbiorczy =
+      PrzyciskPrzegladarki(QStringLiteral("cmdRaportZbiorczy"),
+                           Napis(QStringLiteral("frmPrzegladKont10")), frmSzczegoly_);
+  auto* cmdWCzasie = PrzyciskPrzegladarki(
+      QStringLiteral("cmdWCzasie"), Napis(QStringLiteral("frmPrzegladKont11")), frmSzczegoly_);
   connect(cmdPrzeglad_, &QPushButton::clicked, this, &frmPrzegladKont::cmdPrzeglad_Click);
   connect(cmdPrzegladWewnetrznych_, &QPushButton::clicked, this,
           &frmPrzegladKont::cmdPrzegladWewnetrznych_Click);
@@ -464,14 +446,9 @@ void frmPrzegladKont::PokazWezel() {
 }
 
 void frmPrzegladKont::ustawSzczegoly() {
-  const bool otwarte = sesja.pubSzczegoly == 1;
-  frmSzczegoly_->setVisible(otwarte);
-  cmdSzczegoly_->setText(otwarte
-                             ? QStringLiteral("<<  ") + Napis(QStringLiteral("frmPrzegladKont69"))
-                             : Napis(QStringLiteral("frmPrzegladKont70")) + QStringLiteral(" >>"));
-  const int szerokosc = szerokoscWaska_ + (otwarte ? SzerokoscSzczegolow + 10 : 0);
-  setMinimumWidth(otwarte ? 360 + SzerokoscSzczegolow : 360);
-  resize(szerokosc, std::max(height(), 560));
+  PokazSzczegolyPrzegladarki(this, frmSzczegoly_, cmdSzczegoly_,
+                             Napis(QStringLiteral("frmPrzegladKont69")),
+                             Napis(QStringLiteral("frmPrzegladKont70")), Wymiary, szerokoscWaska_);
 }
 
 // ---- commands --------------------------------------------------------------------------------
@@ -549,11 +526,7 @@ void frmPrzegladKont::SkasujKonto() {
 }
 
 void frmPrzegladKont::cmdSzczegoly_Click() {
-  sesja.pubSzczegoly = sesja.pubSzczegoly == 1 ? 0 : 1;
-  if (sesja.pubSzczegoly == 1)
-    szerokoscWaska_ = width();
-  else
-    szerokoscWaska_ = std::max(360, width() - SzerokoscSzczegolow - 10);
+  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, Wymiary);
   ustawSzczegoly();
   PokazWezel();
 }
@@ -596,23 +569,6 @@ void frmPrzegladKont::menuKontekstowe(const QPoint& gdzie) {
   mnuEdytujKonto_->setText(Napis(QStringLiteral("frmPrzegladKont90")) + nazwa);
   mnuSkasujKonto_->setText(Napis(QStringLiteral("frmPrzegladKont91")) + nazwa);
   menu_->popup(tvwKonta_->viewport()->mapToGlobal(gdzie));
-}
-
-bool frmPrzegladKont::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
-  if (obiekt == tvwKonta_ && zdarzenie->type() == QEvent::KeyPress) {
-    switch (static_cast<QKeyEvent*>(zdarzenie)->key()) {
-      case Qt::Key_Delete:
-        SkasujKonto();
-        return true;
-      case Qt::Key_Return:
-      case Qt::Key_Enter:
-        cmdWybierz_Click();
-        return true;
-      default:
-        break;
-    }
-  }
-  return QDialog::eventFilter(obiekt, zdarzenie);
 }
 
 // ---- the lists and reports of a node ---------------------------------------------------------

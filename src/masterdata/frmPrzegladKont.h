@@ -47,9 +47,6 @@ class frmPrzegladKont : public QDialog {
   // cmdAnuluj, Esc and the close box: the record goes back to what it was at load.
   void reject() override;
 
- protected:
-  bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
-
  private:
   void zbuduj();
   // The refill, selecting the node of klucz if it is there (else as WypelnijDrzewo does).

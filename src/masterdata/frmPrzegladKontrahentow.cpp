@@ -4,13 +4,11 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -20,6 +18,7 @@
 #include "mainwindow/frmMain.h"
 #include "masterdata/frmEdycjaKontrahenta.h"
 #include "masterdata/kontrahenci.h"
+#include "masterdata/przegladarka_gui.h"
 #include "masterdata/przyciskifiltra_gui.h"
 #include "masterdata/wyszukiwanie_gui.h"
 #include "store/baza.h"
@@ -32,23 +31,14 @@ namespace {
 constexpr int RolaKlucza = Qt::UserRole;
 constexpr int RolaWydatku = Qt::UserRole + 1;  // planned lines: the expense, to tell the kind
 constexpr int SzerokoscSzczegolow = 560;
+constexpr WymiarySzczegolow Wymiary{340, SzerokoscSzczegolow, 600};
 
 qint64 idZKlucza(const QTreeWidgetItem* w) {
   return w ? w->data(0, RolaKlucza).toString().mid(1).toLongLong() : 0;
 }
 
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
-
 QLabel* wartosc(const QString& nazwa, QWidget* rodzic) {
-  auto* l = new QLabel(rodzic);
-  l->setObjectName(nazwa);
-  l->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  QLabel* l = WartoscPrzegladarki(nazwa, rodzic);
   l->setMinimumWidth(110);
   return l;
 }
@@ -97,17 +87,7 @@ frmPrzegladKontrahentow::frmPrzegladKontrahentow(QWidget* parent) : QDialog(pare
                                               : Napis(QStringLiteral("frmPrzegladKontrahentow76")));
   kopia_ = sesja.pubKontrahent;
   ustawSzczegoly();
-  if (sesja.pubPozycjaX >= 0 && sesja.pubPozycjaY >= 0) {
-    QRect r(QPoint(sesja.pubPozycjaX, sesja.pubPozycjaY), size());
-    if (QScreen* ekran = screen()) {
-      const QRect dostepne = ekran->availableGeometry();
-      r.moveRight(std::min(r.right(), dostepne.right()));
-      r.moveBottom(std::min(r.bottom(), dostepne.bottom()));
-      r.moveLeft(std::max(r.left(), dostepne.left()));
-      r.moveTop(std::max(r.top(), dostepne.top()));
-    }
-    move(r.topLeft());
-  }
+  UstawPozycjePrzegladarki(this);
   WypelnijListe();
   lvwKontrahenci_->setFocus();
 }
@@ -164,8 +144,8 @@ void frmPrzegladKontrahentow::zbuduj() {
   txtKlucz_->setObjectName(QStringLiteral("txtKlucz"));
   txtKlucz_->setClearButtonEnabled(true);
   lblKlucz->setBuddy(txtKlucz_);
-  cmdNastepny_ = przycisk(QStringLiteral("cmdNastepny"),
-                          Napis(QStringLiteral("frmPrzegladKontrahentow3")), this);
+  cmdNastepny_ = PrzyciskPrzegladarki(QStringLiteral("cmdNastepny"),
+                                      Napis(QStringLiteral("frmPrzegladKontrahentow3")), this);
 
   lvwKontrahenci_ = lista(QStringLiteral("lvwKontrahenci"),
                           {Napis(QStringLiteral("frmPrzegladKontrahentow5")),
@@ -173,7 +153,8 @@ void frmPrzegladKontrahentow::zbuduj() {
                           this);
   lvwKontrahenci_->setColumnWidth(0, 150);
   lvwKontrahenci_->setContextMenuPolicy(Qt::CustomContextMenu);
-  lvwKontrahenci_->installEventFilter(this);
+  new KlawiszePrzegladarki(
+      lvwKontrahenci_, [this] { SkasujKontrahenta(); }, [this] { cmdWybierz_Click(); });
   lvwKontrahenci_->setMinimumHeight(260);
   connect(lvwKontrahenci_, &QTreeWidget::currentItemChanged, this, [this] { PokazKontrahenta(); });
   connect(lvwKontrahenci_, &QTreeWidget::itemDoubleClicked, this, [this] { cmdWybierz_Click(); });
@@ -183,11 +164,11 @@ void frmPrzegladKontrahentow::zbuduj() {
   connect(wyszukiwanie_, &WyszukiwanieGui::wybierz, this,
           &frmPrzegladKontrahentow::cmdWybierz_Click);
 
-  cmdWybierz_ = przycisk(QStringLiteral("cmdWybierz"), QString(), this);
+  cmdWybierz_ = PrzyciskPrzegladarki(QStringLiteral("cmdWybierz"), QString(), this);
   cmdWybierz_->setDefault(true);
-  cmdAnuluj_ = przycisk(QStringLiteral("cmdAnuluj"),
-                        Napis(QStringLiteral("frmPrzegladKontrahentow4")), this);
-  cmdSzczegoly_ = przycisk(QStringLiteral("cmdSzczegoly"), QString(), this);
+  cmdAnuluj_ = PrzyciskPrzegladarki(QStringLiteral("cmdAnuluj"),
+                                    Napis(QStringLiteral("frmPrzegladKontrahentow4")), this);
+  cmdSzczegoly_ = PrzyciskPrzegladarki(QStringLiteral("cmdSzczegoly"), QString(), this);
   connect(cmdWybierz_, &QPushButton::clicked, this, &frmPrzegladKontrahentow::cmdWybierz_Click);
   connect(cmdAnuluj_, &QPushButton::clicked, this, &frmPrzegladKontrahentow::reject);
   connect(cmdSzczegoly_, &QPushButton::clicked, this, &frmPrzegladKontrahentow::cmdSzczegoly_Click);
@@ -278,16 +259,17 @@ QWidget* frmPrzegladKontrahentow::zbudujDokonane() {
   sumy->setColumnStretch(2, 1);
 
   cmdPrzegladDokonanych_ =
-      przycisk(QStringLiteral("cmdPrzegladDokonanych"),
-               Napis(QStringLiteral("frmPrzegladKontrahentow29")), frmDokonane_);
+      PrzyciskPrzegladarki(QStringLiteral("cmdPrzegladDokonanych"),
+                           Napis(QStringLiteral("frmPrzegladKontrahentow29")), frmDokonane_);
   auto* cmdRaportDetaliczny =
-      przycisk(QStringLiteral("cmdRaportDetaliczny"),
-               Napis(QStringLiteral("frmPrzegladKontrahentow30")), frmDokonane_);
+      PrzyciskPrzegladarki(QStringLiteral("cmdRaportDetaliczny"),
+                           Napis(QStringLiteral("frmPrzegladKontrahentow30")), frmDokonane_);
   auto* cmdRaportZbiorczy =
-      przycisk(QStringLiteral("cmdRaportZbiorczy"),
-               Napis(QStringLiteral("frmPrzegladKontrahentow31")), frmDokonane_);
-  auto* cmdWCzasie = przycisk(QStringLiteral("cmdPrzegladKontrahentawCzasie"),
-                              Napis(QStringLiteral("frmPrzegladKontrahentow32")), frmDokonane_);
+      PrzyciskPrzegladarki(QStringLiteral("cmdRaportZbiorczy"),
+                           Napis(QStringLiteral("frmPrzegladKontrahentow31")), frmDokonane_);
+  auto* cmdWCzasie =
+      PrzyciskPrzegladarki(QStringLiteral("cmdPrzegladKontrahentawCzasie"),
+                           Napis(QStringLiteral("frmPrzegladKontrahentow32")), frmDokonane_);
   connect(cmdPrzegladDokonanych_, &QPushButton::clicked, this,
           &frmPrzegladKontrahentow::cmdPrzegladDokonanych_Click);
   connect(cmdRaportDetaliczny, &QPushButton::clicked, this, [this] { cmdRaport_Click(true); });
@@ -322,7 +304,8 @@ QWidget* frmPrzegladKontrahentow::zbudujZaplanowane() {
   lvwZaplanowane_->setColumnWidth(2, 95);
   lvwZaplanowane_->headerItem()->setTextAlignment(1, Qt::AlignRight);
   lvwZaplanowane_->headerItem()->setTextAlignment(2, Qt::AlignRight);
-  lvwZaplanowane_->installEventFilter(this);
+  new KlawiszePrzegladarki(
+      lvwZaplanowane_, [this] { cmdUsunZaplanowana_Click(); }, nullptr);
   connect(lvwZaplanowane_, &QTreeWidget::itemDoubleClicked, this, [this] {
     if (!sesja.pubEdytorOtwarty) cmdEdytuj_Click();
   });
@@ -354,7 +337,7 @@ QWidget* frmPrzegladKontrahentow::zbudujZaplanowane() {
   sumy->setColumnStretch(3, 1);
 
   const auto b = [this](const char* nazwa, const QString& tekst, const QString& podpowiedz) {
-    QPushButton* p = przycisk(QLatin1String(nazwa), tekst, frmZaplanowane_);
+    QPushButton* p = PrzyciskPrzegladarki(QLatin1String(nazwa), tekst, frmZaplanowane_);
     p->setToolTip(podpowiedz);
     return p;
   };
@@ -471,13 +454,9 @@ void frmPrzegladKontrahentow::OdswiezZaplanowane() {
 }
 
 void frmPrzegladKontrahentow::ustawSzczegoly() {
-  const bool otwarte = sesja.pubSzczegoly == 1;
-  szczegoly_->setVisible(otwarte);
-  cmdSzczegoly_->setText(
-      otwarte ? QStringLiteral("<<  ") + Napis(QStringLiteral("frmPrzegladKontrahentow68"))
-              : Napis(QStringLiteral("frmPrzegladKontrahentow69")) + QStringLiteral(" >>"));
-  setMinimumWidth(otwarte ? 340 + SzerokoscSzczegolow : 340);
-  resize(szerokoscWaska_ + (otwarte ? SzerokoscSzczegolow + 10 : 0), std::max(height(), 600));
+  PokazSzczegolyPrzegladarki(
+      this, szczegoly_, cmdSzczegoly_, Napis(QStringLiteral("frmPrzegladKontrahentow68")),
+      Napis(QStringLiteral("frmPrzegladKontrahentow69")), Wymiary, szerokoscWaska_);
 }
 
 // ---- commands on counterparties --------------------------------------------------------------
@@ -529,9 +508,7 @@ void frmPrzegladKontrahentow::SkasujKontrahenta() {
 }
 
 void frmPrzegladKontrahentow::cmdSzczegoly_Click() {
-  sesja.pubSzczegoly = sesja.pubSzczegoly == 1 ? 0 : 1;
-  szerokoscWaska_ =
-      sesja.pubSzczegoly == 1 ? width() : std::max(340, width() - SzerokoscSzczegolow - 10);
+  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, Wymiary);
   ustawSzczegoly();
   PokazKontrahenta();
 }
@@ -542,26 +519,6 @@ void frmPrzegladKontrahentow::menuKontekstowe(const QPoint& gdzie) {
   mnuEdytujKontrahenta_->setEnabled(jest);
   mnuSkasujKontrahenta_->setEnabled(jest);
   menu_->popup(lvwKontrahenci_->viewport()->mapToGlobal(gdzie));
-}
-
-bool frmPrzegladKontrahentow::eventFilter(QObject* obiekt, QEvent* zdarzenie) {
-  if (zdarzenie->type() == QEvent::KeyPress) {
-    const int k = static_cast<QKeyEvent*>(zdarzenie)->key();
-    if (obiekt == lvwKontrahenci_) {
-      if (k == Qt::Key_Delete) {
-        SkasujKontrahenta();
-        return true;
-      }
-      if (k == Qt::Key_Return || k == Qt::Key_Enter) {
-        cmdWybierz_Click();
-        return true;
-      }
-    } else if (obiekt == lvwZaplanowane_ && k == Qt::Key_Delete) {
-      cmdUsunZaplanowana_Click();
-      return true;
-    }
-  }
-  return QDialog::eventFilter(obiekt, zdarzenie);
 }
 
 // ---- planned entries -------------------------------------------------------------------------

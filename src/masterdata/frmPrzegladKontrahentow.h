@@ -63,9 +63,6 @@ class frmPrzegladKontrahentow : public QDialog {
   // cmdAnuluj, Esc and the close box: pubKontrahent goes back to what it was at load.
   void reject() override;
 
- protected:
-  bool eventFilter(QObject* obiekt, QEvent* zdarzenie) override;
-
  private:
   void zbuduj();
   QWidget* zbudujDokonane();

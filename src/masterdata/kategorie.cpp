@@ -16,11 +16,6 @@ const QString NL = QStringLiteral("\r\n");
 
 QString R(int rodzaj) { return QString::number(rodzaj); }
 
-qint64 Licz(const QString& sql) {
-  const Rekordy rs = pubBaza().Czytaj(sql);
-  return rs.Pole(QStringLiteral("ile")).toLongLong();
-}
-
 // The parent key as the table holds it.
 QString RodzicWTabeli(const QString& klucz) {
   return klucz == KluczKorzenia ? QStringLiteral("-") : klucz;
@@ -52,15 +47,15 @@ std::vector<WierszKategorii> WierszeKategorii(int rodzaj) {
 
 int IleDzieci(const QString& klucz, int rodzaj) {
   OtworzBaze();
-  return int(Licz(QStringLiteral("SELECT COUNT(id) AS ile FROM kategorie WHERE rodzaj=") +
-                  R(rodzaj) + QStringLiteral(" AND kategoria=") + SqlTekst(klucz)));
+  return int(PoliczIle(QStringLiteral("SELECT COUNT(id) AS ile FROM kategorie WHERE rodzaj=") +
+                       R(rodzaj) + QStringLiteral(" AND kategoria=") + SqlTekst(klucz)));
 }
 
 qint64 IleWpisow(const QString& klucz, int rodzaj) {
   OtworzBaze();
   qint64 ile = 0;
   for (const char* tabela : {"transakcje", "zaplanowane"})
-    ile += Licz(
+    ile += PoliczIle(
         QStringLiteral("SELECT COUNT(id) AS ile FROM %1 WHERE rodzaj=").arg(QLatin1String(tabela)) +
         R(rodzaj) + QStringLiteral(" AND kategoria=") + SqlTekst(klucz));
   return ile;
@@ -70,7 +65,7 @@ qint64 IleWpisowPoddrzewa(const QString& klucz, int rodzaj) {
   OtworzBaze();
   qint64 ile = 0;
   for (const char* tabela : {"transakcje", "zaplanowane"})
-    ile += Licz(
+    ile += PoliczIle(
         QStringLiteral("SELECT COUNT(id) AS ile FROM %1 WHERE rodzaj=").arg(QLatin1String(tabela)) +
         R(rodzaj) + QStringLiteral(" AND LEFT(kategoria,") + QString::number(klucz.size()) +
         QStringLiteral(")=") + SqlTekst(klucz));
@@ -105,8 +100,8 @@ QString NastepnyIdentyfikator(const QString& rodzic, int rodzaj) {
 QString SciezkaKategorii(const QString& identyfikator, int rodzaj) {
   OtworzBaze();
   const qint64 ile =
-      Licz(QStringLiteral("SELECT COUNT(*) AS ile FROM kategorie WHERE rodzaj=") + R(rodzaj) +
-           QStringLiteral(" AND identyfikator=") + SqlTekst(identyfikator));
+      PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM kategorie WHERE rodzaj=") + R(rodzaj) +
+                QStringLiteral(" AND identyfikator=") + SqlTekst(identyfikator));
   if (identyfikator == QLatin1String("-") || ile == 0) {
     sesja.pubKategoria.identyfikator.clear();
     sesja.pubKategoria.nazwa.clear();
@@ -172,8 +167,8 @@ std::optional<QString> ZapiszKategorie(const KategoriaRekord& k, const QString& 
     return k.identyfikator;
   }
   // Equal names over both trees and all levels are allowed, but only when the user says so.
-  if (Licz(QStringLiteral("SELECT COUNT(*) AS ile FROM kategorie WHERE nazwa=") + SqlTekst(nazwa)) >
-      0) {
+  if (PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM kategorie WHERE nazwa=") +
+                SqlTekst(nazwa)) > 0) {
     const QString pytanie = Napis(QStringLiteral("frmEdycjaKategorii9")) + QLatin1Char(' ') +
                             nazwa + QStringLiteral(". ") +
                             Napis(QStringLiteral("frmEdycjaKategorii10"));

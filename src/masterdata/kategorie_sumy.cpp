@@ -60,9 +60,7 @@ qint64 Grosze(const Rekordy& rs) {
 
 }  // namespace
 
-double SumaKategorii::Razem() const {
-  return double(WGroszach(przychod) + WGroszach(wydatek)) / 100.0;
-}
+double SumaKategorii::Razem() const { return ZGroszy(WGroszach(przychod) + WGroszach(wydatek)); }
 
 SumaKategorii SumaWezla(const QString& klucz, int rodzaj, const QString& warunek) {
   OtworzBaze();
@@ -122,14 +120,14 @@ Rozbicie RozbicieKategorii(const QString& klucz, int rodzaj, const QString& waru
     WierszRozbicia w;
     w.identyfikator = g.dziecko;
     w.nazwa = g.nazwa;
-    w.kwota = double(g.grosze) / 100.0;
+    w.kwota = ZGroszy(g.grosze);
     if (calosc != 0)
       w.udzial = FormatLiczby(double(g.grosze) / double(calosc) * 100.0, QStringLiteral("##0.00"));
     kolor = kolor % LiczbaKolorowRozbicia + 1;
     w.kolor = kolor;
     wynik.wiersze.push_back(w);
   }
-  wynik.sumaPod = double(calosc) / 100.0;
+  wynik.sumaPod = ZGroszy(calosc);
   wynik.razem = calosc != 0 ? wynik.sumaPod : wynik.suma;
   return wynik;
 }
@@ -168,7 +166,7 @@ StanLimitu LimitWezla(const QString& klucz, int rodzaj, bool maDzieci) {
                        .Razem();
   const qint64 pozostajeGrosze = WGroszach(s.limit) - WGroszach(s.wykorzystano);
   s.widoczny = true;
-  s.pozostaje = double(pozostajeGrosze) / 100.0;
+  s.pozostaje = ZGroszy(pozostajeGrosze);
   s.przekroczony = pozostajeGrosze < 0;
   s.wykorzystanoMain = FormatKwotyEdycja(s.wykorzystano);
   s.komentarz = Napis(s.przekroczony ? QStringLiteral("frmPrzegladKategorii94")

@@ -10,13 +10,6 @@ namespace {
 
 QString liczba(qint64 n) { return QString::number(n); }
 
-// Sums and differences of amounts in whole cents, so that no rounding creeps in.
-double zGroszy(qint64 grosze) { return double(grosze) / 100.0; }
-
-qint64 policz(const QString& sql) {
-  return qint64(PoleRekordu(pubBaza().Czytaj(sql), QStringLiteral("ile")));
-}
-
 }  // namespace
 
 // ---- nodes -----------------------------------------------------------------------------------
@@ -112,10 +105,10 @@ ZapytaniaKont ZapytaniaWezla(const WezelKont& w) {
 
 // ---- sums ------------------------------------------------------------------------------------
 
-double SumyKont::BilansOtwarcia() const { return zGroszy(WGroszach(bowinien) - WGroszach(boma)); }
+double SumyKont::BilansOtwarcia() const { return ZGroszy(WGroszach(bowinien) - WGroszach(boma)); }
 
 double SumyKont::Saldo() const {
-  return zGroszy(WGroszach(bowinien) - WGroszach(boma) + WGroszach(przychod) - WGroszach(wydatek) +
+  return ZGroszy(WGroszach(bowinien) - WGroszach(boma) + WGroszach(przychod) - WGroszach(wydatek) +
                  WGroszach(przychodzace) - WGroszach(wychodzace));
 }
 
@@ -150,11 +143,11 @@ BilansOkresu ObliczBilansOkresu(const WezelKont& wezel, const Okres& okres) {
   b.wOkresie = CzytajSumy(wezel, okres.warunek);
   const qint64 poczatek = WGroszach(b.przed.Saldo());
   const qint64 koniec = poczatek + WGroszach(b.wOkresie.Saldo());
-  b.poczatek = zGroszy(poczatek);
-  b.koniec = zGroszy(koniec);
-  b.zmiana = zGroszy(koniec - poczatek);
+  b.poczatek = ZGroszy(poczatek);
+  b.koniec = ZGroszy(koniec);
+  b.zmiana = ZGroszy(koniec - poczatek);
   b.bilansOtwarcia =
-      zGroszy(WGroszach(b.przed.BilansOtwarcia()) + WGroszach(b.wOkresie.BilansOtwarcia()));
+      ZGroszy(WGroszach(b.przed.BilansOtwarcia()) + WGroszach(b.wOkresie.BilansOtwarcia()));
   b.procent = ProcentZmiany(b.poczatek, b.koniec);
   return b;
 }
@@ -220,8 +213,8 @@ PytanieKonta SprawdzZapisKonta(const DaneKonta& dane) {
             Napis(QStringLiteral("frmEdycjaKonta26"))};
   if (dane.id == 0) {
     OtworzBaze();
-    if (policz(QStringLiteral("SELECT COUNT(*) AS ile FROM konta WHERE nazwa=") + SqlTekst(nazwa)) >
-        0)
+    if (PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM konta WHERE nazwa=") +
+                  SqlTekst(nazwa)) > 0)
       return {PytanieKonta::Pytanie,
               Napis(QStringLiteral("frmEdycjaKonta27")) + QLatin1Char(' ') + nazwa +
                   Napis(QStringLiteral("frmEdycjaKonta28")),
@@ -292,12 +285,13 @@ PytanieKonta SprawdzUsuniecieKonta(qint64 id, const QString& nazwa) {
   OtworzBaze();
   const QString n = liczba(id);
   const qint64 ile =
-      policz(QStringLiteral("SELECT COUNT(id) AS ile FROM transakcje WHERE konto=") + n) +
-      policz(QStringLiteral("SELECT COUNT(id) AS ile FROM zaplanowane WHERE konto=") + n) +
-      policz(QStringLiteral("SELECT COUNT(id) AS ile FROM wewnetrzne WHERE nakonto=") + n +
-             QStringLiteral(" OR zkonta=") + n) +
-      policz(QStringLiteral("SELECT COUNT(id) AS ile FROM zaplanowanewewnetrzne WHERE nakonto=") +
-             n + QStringLiteral(" OR zkonta=") + n);
+      PoliczIle(QStringLiteral("SELECT COUNT(id) AS ile FROM transakcje WHERE konto=") + n) +
+      PoliczIle(QStringLiteral("SELECT COUNT(id) AS ile FROM zaplanowane WHERE konto=") + n) +
+      PoliczIle(QStringLiteral("SELECT COUNT(id) AS ile FROM wewnetrzne WHERE nakonto=") + n +
+                QStringLiteral(" OR zkonta=") + n) +
+      PoliczIle(
+          QStringLiteral("SELECT COUNT(id) AS ile FROM zaplanowanewewnetrzne WHERE nakonto=") + n +
+          QStringLiteral(" OR zkonta=") + n);
   if (ile >= 1)
     return {PytanieKonta::Odmowa,
             Napis(QStringLiteral("frmPrzegladKont71")) + QLatin1Char(' ') + nazwa +

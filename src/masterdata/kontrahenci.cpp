@@ -9,12 +9,6 @@ namespace {
 
 QString liczba(qint64 n) { return QString::number(n); }
 
-qint64 policz(const QString& sql) {
-  return qint64(PoleRekordu(pubBaza().Czytaj(sql), QStringLiteral("ile")));
-}
-
-double zGroszy(qint64 grosze) { return double(grosze) / 100.0; }
-
 }  // namespace
 
 QString OpisKontrahenta(KontrahentRekord& kontrahent) {
@@ -61,8 +55,8 @@ bool ZapiszKontrahenta(const DaneKontrahenta& dane, qint64* nowyId) {
   }
   // A short name may be shared, as far as the user agrees; a rename is not checked.
   if (dane.id == 0 &&
-      policz(QStringLiteral("SELECT COUNT(*) AS ile FROM kontrahent WHERE skrocona=") +
-             SqlTekst(s)) > 0 &&
+      PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM kontrahent WHERE skrocona=") +
+                SqlTekst(s)) > 0 &&
       MyMsgbox(Napis(QStringLiteral("frmEdycjaKontrahenta17")) + QLatin1Char(' ') + s +
                    Napis(QStringLiteral("frmEdycjaKontrahenta18")),
                Napis(QStringLiteral("frmEdycjaKontrahenta19")), MsgTakNie,
@@ -104,8 +98,10 @@ bool ZapiszKontrahenta(const DaneKontrahenta& dane, qint64* nowyId) {
 qint64 IleWpisowKontrahenta(qint64 id) {
   OtworzBaze();
   const QString n = liczba(id);
-  return policz(QStringLiteral("SELECT COUNT(id) AS ile FROM transakcje WHERE kontrahent=") + n) +
-         policz(QStringLiteral("SELECT COUNT(id) AS ile FROM zaplanowane WHERE kontrahent=") + n);
+  return PoliczIle(QStringLiteral("SELECT COUNT(id) AS ile FROM transakcje WHERE kontrahent=") +
+                   n) +
+         PoliczIle(QStringLiteral("SELECT COUNT(id) AS ile FROM zaplanowane WHERE kontrahent=") +
+                   n);
 }
 
 bool UsunKontrahenta(qint64 id, const QString& nazwa) {
@@ -178,10 +174,10 @@ PanelZaplanowanych CzytajZaplanowane(qint64 id, const QDate& dzienRoboczy) {
     }
     p.wiersze.push_back(std::move(z));
   }
-  p.przychody = zGroszy(przychody);
-  p.wydatki = zGroszy(wydatki);
-  p.zaleglePrzychody = zGroszy(zaleglePrzychody);
-  p.zalegleWydatki = zGroszy(zalegleWydatki);
+  p.przychody = ZGroszy(przychody);
+  p.wydatki = ZGroszy(wydatki);
+  p.zaleglePrzychody = ZGroszy(zaleglePrzychody);
+  p.zalegleWydatki = ZGroszy(zalegleWydatki);
   return p;
 }
 

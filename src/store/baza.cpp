@@ -52,9 +52,11 @@ bool Baza::Otworz(const QString& plik, QString* blad) {
     return fail(QString::fromUtf8(sqlite3_errmsg(db_)));
   sqlite3_key(db_, KluczBazy, int(strlen(KluczBazy)));
   // A wrong key or a file that is not a store shows at the first read.
-  if (sqlite3_exec(db_, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr) != SQLITE_OK)
+  if (sqlite3_exec(db_, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr) !=
+      SQLITE_OK)
     return fail(QString::fromUtf8(sqlite3_errmsg(db_)));
-  sqlite3_exec(db_, "PRAGMA foreign_keys=OFF; PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; "
+  sqlite3_exec(db_,
+               "PRAGMA foreign_keys=OFF; PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; "
                "PRAGMA cache_size=-65536; PRAGMA temp_store=MEMORY;",
                nullptr, nullptr, nullptr);
   ZarejestrujFunkcjeJet(db_);
@@ -70,9 +72,12 @@ void Baza::Zamknij() {
 
 static QVariant wartoscKolumny(sqlite3_stmt* st, int i) {
   switch (sqlite3_column_type(st, i)) {
-    case SQLITE_INTEGER: return QVariant(qint64(sqlite3_column_int64(st, i)));
-    case SQLITE_FLOAT: return QVariant(sqlite3_column_double(st, i));
-    case SQLITE_NULL: return QVariant();
+    case SQLITE_INTEGER:
+      return QVariant(qint64(sqlite3_column_int64(st, i)));
+    case SQLITE_FLOAT:
+      return QVariant(sqlite3_column_double(st, i));
+    case SQLITE_NULL:
+      return QVariant();
     default:
       return QVariant(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, i)),
                                         sqlite3_column_bytes(st, i)));
@@ -217,6 +222,10 @@ double PoleRekordu(const Rekordy& rs, const QString& nazwa) {
   if (v.isNull()) return 0.0;
   if (v.typeId() == QMetaType::QString) return ZaokraglijDoGroszy(LiczbaZTekstu(v.toString()));
   return ZaokraglijDoGroszy(v.toDouble());
+}
+
+qint64 PoliczIle(const QString& jetSql) {
+  return pubBaza().Czytaj(jetSql).Pole(QStringLiteral("ile")).toLongLong();
 }
 
 QString Oczysc(const QVariant& wartosc) { return wartosc.toString().trimmed(); }

@@ -15,7 +15,9 @@ class Rekordy {
   Rekordy() = default;
 
   bool Eof() const { return biezacy_ >= wiersze_.size(); }
-  void MoveNext() { if (!Eof()) ++biezacy_; }
+  void MoveNext() {
+    if (!Eof()) ++biezacy_;
+  }
   void MoveFirst() { biezacy_ = 0; }
   qsizetype RecordCount() const { return wiersze_.size(); }
   int LiczbaPol() const { return int(nazwy_.size()); }
@@ -92,6 +94,8 @@ QString SqlTekst(const QString& tekst);
 
 // A number field of the current row: EOF or null give 0; the value is rounded to cents.
 double PoleRekordu(const Rekordy& rs, const QString& nazwa);
+// The count a "SELECT COUNT(...) AS ile ..." statement gives; 0 when it fails.
+qint64 PoliczIle(const QString& jetSql);
 // Value as text with leading and trailing blanks removed.
 QString Oczysc(const QVariant& wartosc);
 

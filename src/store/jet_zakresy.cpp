@@ -57,18 +57,33 @@ QString ZakresyDat(const QString& jet) {
   static const QString K = QStringLiteral("((?:\\w+\\.)?data)");
   static const auto opt = QRegularExpression::CaseInsensitiveOption;
   auto re = [](const QString& wzor) { return QRegularExpression(wzor, opt); };
-  static const QRegularExpression tydzien = re(
-      QStringLiteral("\\(\\s*DATEPART\\s*\\(\\s*'ww'\\s*,\\s*%1\\s*,\\s*2\\s*\\)\\s*=\\s*(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)").arg(K));
-  static const QRegularExpression tydzienPrzed = re(
-      QStringLiteral("\\(\\s*\\(\\s*DATEPART\\s*\\(\\s*'ww'\\s*,\\s*%1\\s*,\\s*2\\s*\\)\\s*<\\s*(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)\\s+OR\\s+\\(\\s*YEAR\\s*\\(\\s*\\1\\s*\\)\\s*<\\s*(\\d+)\\s*\\)\\s*\\)").arg(K));
-  static const QRegularExpression miesiac = re(
-      QStringLiteral("\\(\\s*MONTH\\s*\\(\\s*%1\\s*\\)\\s*=\\s*(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)").arg(K));
-  static const QRegularExpression miesiacPrzed = re(
-      QStringLiteral("\\(\\s*\\(\\s*MONTH\\s*\\(\\s*%1\\s*\\)\\s*<\\s*(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)\\s+OR\\s+\\(\\s*YEAR\\s*\\(\\s*\\1\\s*\\)\\s*<\\s*(\\d+)\\s*\\)\\s*\\)").arg(K));
-  static const QRegularExpression kwartal = re(
-      QStringLiteral("\\(\\s*DATEPART\\s*\\(\\s*'q'\\s*,\\s*%1\\s*\\)\\s*=\\s*(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)").arg(K));
-  static const QRegularExpression kwartalPrzed = re(
-      QStringLiteral("\\(\\s*\\(\\s*DATEPART\\s*\\(\\s*'q'\\s*,\\s*%1\\s*\\)\\s*<\\s*(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)\\s+OR\\s+\\(\\s*YEAR\\s*\\(\\s*\\1\\s*\\)\\s*<\\s*(\\d+)\\s*\\)\\s*\\)").arg(K));
+  static const QRegularExpression tydzien =
+      re(QStringLiteral("\\(\\s*DATEPART\\s*\\(\\s*'ww'\\s*,\\s*%1\\s*,\\s*2\\s*\\)\\s*=\\s*(\\d+)"
+                        "\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)")
+             .arg(K));
+  static const QRegularExpression tydzienPrzed =
+      re(QStringLiteral("\\(\\s*\\(\\s*DATEPART\\s*\\(\\s*'ww'\\s*,\\s*%1\\s*,\\s*2\\s*\\)\\s*<\\s*"
+                        "(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)\\s+OR\\s+"
+                        "\\(\\s*YEAR\\s*\\(\\s*\\1\\s*\\)\\s*<\\s*(\\d+)\\s*\\)\\s*\\)")
+             .arg(K));
+  static const QRegularExpression miesiac =
+      re(QStringLiteral("\\(\\s*MONTH\\s*\\(\\s*%1\\s*\\)\\s*=\\s*(\\d+)\\s+AND\\s+YEAR\\s*\\(\\s*"
+                        "\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)")
+             .arg(K));
+  static const QRegularExpression miesiacPrzed =
+      re(QStringLiteral("\\(\\s*\\(\\s*MONTH\\s*\\(\\s*%1\\s*\\)\\s*<\\s*(\\d+)\\s+AND\\s+YEAR\\s*"
+                        "\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)\\s+OR\\s+\\(\\s*YEAR\\s*\\(\\s*"
+                        "\\1\\s*\\)\\s*<\\s*(\\d+)\\s*\\)\\s*\\)")
+             .arg(K));
+  static const QRegularExpression kwartal =
+      re(QStringLiteral("\\(\\s*DATEPART\\s*\\(\\s*'q'\\s*,\\s*%1\\s*\\)\\s*=\\s*(\\d+)\\s+AND\\s+"
+                        "YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)")
+             .arg(K));
+  static const QRegularExpression kwartalPrzed =
+      re(QStringLiteral("\\(\\s*\\(\\s*DATEPART\\s*\\(\\s*'q'\\s*,\\s*%1\\s*\\)\\s*<\\s*(\\d+)\\s+"
+                        "AND\\s+YEAR\\s*\\(\\s*\\1\\s*\\)\\s*=\\s*(\\d+)\\s*\\)\\s+OR\\s+\\(\\s*"
+                        "YEAR\\s*\\(\\s*\\1\\s*\\)\\s*<\\s*(\\d+)\\s*\\)\\s*\\)")
+             .arg(K));
   // A bare year test, not part of an arithmetic expression.
   static const QRegularExpression rok =
       re(QStringLiteral("YEAR\\s*\\(\\s*%1\\s*\\)\\s*=\\s*(\\d+)(?=\\s|\\)|$)").arg(K));

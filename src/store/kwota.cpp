@@ -19,7 +19,7 @@ qint64 WGroszach(double wartosc) {
 
 double ZaokraglijDoGroszy(double wartosc) {
   if (!std::isfinite(wartosc)) return 0.0;
-  return double(WGroszach(wartosc)) / 100.0;
+  return ZGroszy(WGroszach(wartosc));
 }
 
 double LiczbaZTekstu(const QString& tekst) {

@@ -6,6 +6,8 @@
 
 // Nearest whole-cent value, half away from zero on the decimal form.
 double ZaokraglijDoGroszy(double wartosc);
+// The amount of a number of whole cents.
+inline double ZGroszy(qint64 grosze) { return double(grosze) / 100.0; }
 // Amount in whole cents (exact for |wartosc| < 10^13).
 qint64 WGroszach(double wartosc);
 // The program's number reader: leading blanks skipped, the longest numeric prefix with "."

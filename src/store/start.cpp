@@ -7,25 +7,28 @@
 #include "store/session.h"
 
 namespace {
-const char* const kolumnyMasek[] = {
-    "pubFormatDaty_ddpmmm",       "pubFormatDaty_ddpmmmpyy",   "pubFormatDaty_ddlmmmlyyyy",
-    "pubFormatDaty_ddsmmmmsyyyy", "pubFormatDaty_dd_mmm_yy",   "pubFormatDaty_ddpmmmmpyy",
-    "pubFormatDaty_ddpmmmmpyyyy"};
+const char* const kolumnyMasek[] = {"pubFormatDaty_ddpmmm",      "pubFormatDaty_ddpmmmpyy",
+                                    "pubFormatDaty_ddlmmmlyyyy", "pubFormatDaty_ddsmmmmsyyyy",
+                                    "pubFormatDaty_dd_mmm_yy",   "pubFormatDaty_ddpmmmmpyy",
+                                    "pubFormatDaty_ddpmmmmpyyyy"};
 
 const QStringList& kolumnySetupKolorow() {
-  static const QStringList k = {
-      QStringLiteral("tloaktywne"),   QStringLiteral("napisyaktywne"),
-      QStringLiteral("przyciskiaktywne"), QStringLiteral("etykietyaktywne"),
-      QStringLiteral("napisyetykietaktywne"), QStringLiteral("listajeden"),
-      QStringLiteral("listadwa"),     QStringLiteral("tlonieaktywne"),
-      QStringLiteral("napisynieaktywne")};
+  static const QStringList k = {QStringLiteral("tloaktywne"),
+                                QStringLiteral("napisyaktywne"),
+                                QStringLiteral("przyciskiaktywne"),
+                                QStringLiteral("etykietyaktywne"),
+                                QStringLiteral("napisyetykietaktywne"),
+                                QStringLiteral("listajeden"),
+                                QStringLiteral("listadwa"),
+                                QStringLiteral("tlonieaktywne"),
+                                QStringLiteral("napisynieaktywne")};
   return k;
 }
 
 void ustawKolory(Ustawienia& u, const QStringList& k) {
-  QString* pola[] = {&u.tloaktywne,     &u.napisyaktywne, &u.przyciskiaktywne,
+  QString* pola[] = {&u.tloaktywne,      &u.napisyaktywne,        &u.przyciskiaktywne,
                      &u.etykietyaktywne, &u.napisyetykietaktywne, &u.listajeden,
-                     &u.listadwa,       &u.tlonieaktywne, &u.napisynieaktywne};
+                     &u.listadwa,        &u.tlonieaktywne,        &u.napisynieaktywne};
   for (int i = 0; i < 9; ++i) *pola[i] = k.value(i);
 }
 }  // namespace
@@ -64,7 +67,8 @@ bool AktualizujBaze() {
       for (int i = 0; i < 7; ++i)
         set << QStringLiteral("%1=%2").arg(QLatin1String(kolumnyMasek[i]), SqlTekst(wartosci[i]));
       set << QStringLiteral("DrukowacZera='1'");
-      return bool(b.Wykonaj(QStringLiteral("UPDATE wersjabazy SET ") + set.join(QStringLiteral(", "))));
+      return bool(
+          b.Wykonaj(QStringLiteral("UPDATE wersjabazy SET ") + set.join(QStringLiteral(", "))));
     });
     if (!ok) return false;
   }
@@ -73,9 +77,9 @@ bool AktualizujBaze() {
       "pubFormatDaty_ddsmmmmsyyyy, pubFormatDaty_dd_mmm_yy, pubFormatDaty_ddpmmmmpyy, "
       "pubFormatDaty_ddpmmmmpyyyy, DrukowacZera FROM wersjabazy"));
   if (!rs.Ok()) return false;
-  QString* maski[] = {&sesja.pubFormatDaty_ddpmmm,       &sesja.pubFormatDaty_ddpmmmpyy,
-                      &sesja.pubFormatDaty_ddlmmmlyyyy,  &sesja.pubFormatDaty_ddsmmmmsyyyy,
-                      &sesja.pubFormatDaty_dd_mmm_yy,    &sesja.pubFormatDaty_ddpmmmmpyy,
+  QString* maski[] = {&sesja.pubFormatDaty_ddpmmm,      &sesja.pubFormatDaty_ddpmmmpyy,
+                      &sesja.pubFormatDaty_ddlmmmlyyyy, &sesja.pubFormatDaty_ddsmmmmsyyyy,
+                      &sesja.pubFormatDaty_dd_mmm_yy,   &sesja.pubFormatDaty_ddpmmmmpyy,
                       &sesja.pubFormatDaty_ddpmmmmpyyyy};
   for (int i = 0; i < 7; ++i) *maski[i] = rs.Tekst(QLatin1String(kolumnyMasek[i]));
   sesja.DrukowacZera = rs.Tekst(QStringLiteral("DrukowacZera")).toInt();
@@ -84,9 +88,8 @@ bool AktualizujBaze() {
 
 bool CzyPustaBaza() {
   for (const char* tabela : {"kategorie", "konta", "kontrahent"}) {
-    const Rekordy rs = pubBaza().Czytaj(
-        QStringLiteral("SELECT COUNT(*) AS ile FROM %1").arg(QLatin1String(tabela)));
-    if (PoleRekordu(rs, QStringLiteral("ile")) > 0) return false;
+    if (PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM %1").arg(QLatin1String(tabela))) > 0)
+      return false;
   }
   return true;
 }
@@ -99,7 +102,8 @@ void WczytajSetup() {
   if (rs.Ok() && rs.Eof()) {
     QStringList wartosci;
     for (const QString& k : DomyslneKolory()) wartosci << SqlTekst(k);
-    pubBaza().Wykonaj(QStringLiteral("INSERT INTO setup (") + kolumnySetupKolorow().join(QLatin1Char(',')) +
+    pubBaza().Wykonaj(QStringLiteral("INSERT INTO setup (") +
+                      kolumnySetupKolorow().join(QLatin1Char(',')) +
                       QStringLiteral(",autostartprzypominacz) VALUES (") +
                       wartosci.join(QLatin1Char(',')) + QStringLiteral(",'1')"));
   } else if (!rs.Eof()) {
@@ -118,8 +122,9 @@ void WczytajSetup() {
 
 QString ImionaDnia() {
   const QDate d = Dzis();
-  const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT imiona FROM imieniny WHERE dzien=%1 AND miesiac=%2")
-                                          .arg(d.day())
-                                          .arg(d.month()));
+  const Rekordy rs =
+      pubBaza().Czytaj(QStringLiteral("SELECT imiona FROM imieniny WHERE dzien=%1 AND miesiac=%2")
+                           .arg(d.day())
+                           .arg(d.month()));
   return rs.Tekst(QStringLiteral("imiona"));
 }

@@ -329,19 +329,26 @@ using Grosze = __int128;
 const long double kNajwiecejGroszy = std::ldexp(1.0L, 126);
 
 // Whole cents of an amount, half away from zero on its decimal form: 1.005 (held as
-// 1.00499999...) gives 101, as the rounding of the amounts themselves does. False when the
-// amount is out of range.
+// 1.00499999...) gives 101, as the rounding of the amounts themselves does. This is every
+// amount a user types; false for the rest.
+inline bool groszeMale(double v, qint64& g) {
+  if (!(std::fabs(v) < 9e13)) return false;
+  const double a = std::fabs(v) * 100.0;
+  const double calosc = std::floor(a);
+  const qint64 c = qint64(calosc) + (a - calosc >= 0.5 - 5e-5 ? 1 : 0);
+  g = v < 0 ? -c : c;
+  return true;
+}
+
+// The same for any amount. Past 2^53 cents every double is a whole number of cents, and 64
+// bits of mantissa hold it times 100 exactly. False when it is out of range or no number.
 bool naGrosze(double v, Grosze& g) {
-  if (!std::isfinite(v)) return false;
-  if (std::fabs(v) < 9e13) {
-    const double a = std::fabs(v) * 100.0;
-    const double calosc = std::floor(a);
-    const qint64 c = qint64(calosc) + (a - calosc >= 0.5 - 5e-5 ? 1 : 0);
-    g = v < 0 ? -c : c;
+  qint64 maly;
+  if (groszeMale(v, maly)) {
+    g = maly;
     return true;
   }
-  // Past 2^53 cents every double is a whole number of cents; 64 bits of mantissa hold it times
-  // 100 exactly.
+  if (!std::isfinite(v)) return false;
   const long double a = std::fabs(static_cast<long double>(v)) * 100.0L;
   if (a >= kNajwiecejGroszy) return false;
   const long double calosc = std::floor(a);
@@ -396,18 +403,22 @@ double liczbaZTekstu(const unsigned char* t, int n) {
   return x;
 }
 
-// The state lives in memory SQLite gives with 8-byte alignment: the 128-bit sum is copied in
-// and out rather than read in place.
+// Rows add up in 64 bits, and what would overflow them moves to 128 bits. The state lives in
+// memory SQLite gives with 8-byte alignment: the 128-bit part is copied in and out rather than
+// read in place.
 struct StanSumy {
-  unsigned char grosze[sizeof(Grosze)];
+  qint64 grosze;
+  unsigned char reszta[sizeof(Grosze)];
   qint64 wiersze;
   bool blad;
 };
 
-Grosze suma(const StanSumy& s) {
-  Grosze g;
-  std::memcpy(&g, s.grosze, sizeof g);
-  return g;
+bool dodajDoReszty(StanSumy& s, Grosze g) {
+  Grosze r;
+  std::memcpy(&r, s.reszta, sizeof r);
+  if (__builtin_add_overflow(r, g, &r)) return false;
+  std::memcpy(s.reszta, &r, sizeof r);
+  return true;
 }
 
 void sumaKrok(sqlite3_context* ctx, int, sqlite3_value** argv) {
@@ -421,9 +432,18 @@ void sumaKrok(sqlite3_context* ctx, int, sqlite3_value** argv) {
     case SQLITE_INTEGER:
       g = Grosze(sqlite3_value_int64(argv[0])) * 100;
       break;
-    case SQLITE_FLOAT:
-      ok = naGrosze(sqlite3_value_double(argv[0]), g);
+    case SQLITE_FLOAT: {
+      // The common case stays in 64 bits.
+      const double v = sqlite3_value_double(argv[0]);
+      qint64 maly, nowa;
+      if (groszeMale(v, maly) && !__builtin_add_overflow(s->grosze, maly, &nowa)) {
+        s->grosze = nowa;
+        ++s->wiersze;
+        return;
+      }
+      ok = naGrosze(v, g);
       break;
+    }
     default: {
       const auto* t = sqlite3_value_text(argv[0]);
       const int n = sqlite3_value_bytes(argv[0]);
@@ -439,12 +459,16 @@ void sumaKrok(sqlite3_context* ctx, int, sqlite3_value** argv) {
       }
     }
   }
-  Grosze nowa;
-  if (!ok || __builtin_add_overflow(suma(*s), g, &nowa)) {
+  const qint64 maly = qint64(g);
+  qint64 nowa;
+  if (ok && maly == g && !__builtin_add_overflow(s->grosze, maly, &nowa))
+    s->grosze = nowa;
+  else if (ok)
+    ok = dodajDoReszty(*s, g);
+  if (!ok) {
     s->blad = true;
     return;
   }
-  std::memcpy(s->grosze, &nowa, sizeof nowa);
   ++s->wiersze;
 }
 
@@ -453,7 +477,10 @@ void sumaKoniec(sqlite3_context* ctx) {
   auto* s = static_cast<StanSumy*>(sqlite3_aggregate_context(ctx, 0));
   if (s && s->blad) return sqlite3_result_error(ctx, "SUM: amount out of range", -1);
   if (!s || s->wiersze == 0) return sqlite3_result_null(ctx);
-  const Grosze g = suma(*s);
+  if (!dodajDoReszty(*s, s->grosze))
+    return sqlite3_result_error(ctx, "SUM: amount out of range", -1);
+  Grosze g;
+  std::memcpy(&g, s->reszta, sizeof g);
   constexpr Grosze kDokladnie = Grosze(1) << 53;
   if (g > -kDokladnie && g < kDokladnie)
     return sqlite3_result_double(ctx, double(qint64(g)) / 100.0);

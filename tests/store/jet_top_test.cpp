@@ -67,6 +67,11 @@ TEST(JetTop, TopKeepsEveryRowTiedWithTheLast) {
   EXPECT_EQ(kolumna("SELECT opis FROM wewnetrzne WHERE nakonto IN (SELECT TOP 1 nakonto FROM "
                     "wewnetrzne ORDER BY data DESC) ORDER BY id"),
             QStringList({"a", "b", "c", "d", "e"}));
+  // Distinct rows tie only once.
+  EXPECT_EQ(kolumna("SELECT DISTINCT TOP 1 data FROM wewnetrzne ORDER BY data DESC"),
+            QStringList({"2026-11-22"}));
+  EXPECT_EQ(kolumna("SELECT DISTINCT TOP 2 zkonta FROM wewnetrzne ORDER BY zkonta"),
+            QStringList({"1", "2"}));
   // Grouped, ordered by a sum.
   EXPECT_EQ(kolumna("SELECT TOP 1 data, COUNT(id) AS ile FROM wewnetrzne GROUP BY data ORDER BY "
                     "COUNT(id) DESC"),

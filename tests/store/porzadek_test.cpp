@@ -2,6 +2,8 @@
 // the program runs, in both editions; keys, dates and numbers keep their exact order; the
 // indexes stay in use; and the store stays readable by the plain sqlcipher shell.
 
+#include "store/porzadek.h"
+
 #include <gtest/gtest.h>
 
 #include <QProcess>
@@ -75,6 +77,10 @@ TEST(Porzadek, NamesSortInPolishOrderAndCompareBlindToCase) {
     EXPECT_EQ(kolumna(QStringLiteral("SELECT szablony.nazwa FROM szablony ORDER BY szablony.nazwa"),
                       QStringLiteral("nazwa")),
               oczekiwane);
+    // Lists sorted in memory follow the same order.
+    std::sort(slowa.begin(), slowa.end(),
+              [](const QString& a, const QString& b) { return PorownajPolsko(a, b) < 0; });
+    EXPECT_EQ(slowa, oczekiwane);
     // Inside a word too, and the longer word after its own beginning; descending reverses it.
     wykonaj(QStringLiteral("DELETE FROM szablony"));
     for (const char* s : {"Kot", "kąt", "KOTA", "Kąpiel", "Żaba", "źrebię", "zebra", "Zając"})

@@ -19,7 +19,7 @@ class QLineEdit;
 class QToolButton;
 class QWidget;
 
-// An amount field (at most 10 characters) with the rules attached, and its "..." button beside
+// An amount field with the rules attached, and its "..." button beside
 // it that opens the calculator for it.
 struct PoleZKalkulatorem {
   QLineEdit* pole;
@@ -38,6 +38,10 @@ class PoleKwoty : public QObject {
   // the screen places both and sets the field's width.
   static PoleZKalkulatorem NowePole(const QString& nazwaPola, const QString& nazwaPrzycisku,
                                     const QString& podpowiedzPrzycisku, QWidget* rodzic);
+
+  // The width at which the field shows any amount the program holds (up to 10^12, negative
+  // results of the calculator included) whole.
+  static int Szerokosc(const QLineEdit* pole);
 
   QLineEdit* Pole() const;
   // The amount the field shows, in whole cents (a text out of shape is read as it will be shown).

@@ -22,6 +22,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class PrzyciskiFiltra;
 class WyszukiwanieGui;
+struct WymiarySzczegolow;
 
 class frmPrzegladKontrahentow : public QDialog {
   Q_OBJECT
@@ -68,6 +69,8 @@ class frmPrzegladKontrahentow : public QDialog {
   QWidget* zbudujDokonane();
   QWidget* zbudujZaplanowane();
   void ustawSzczegoly();
+  // The window's sizes with the details open and closed.
+  WymiarySzczegolow wymiary() const;
   void menuKontekstowe(const QPoint& gdzie);
   QTreeWidgetItem* wybrany() const;
   QTreeWidgetItem* wybranaZaplanowana() const;
@@ -115,4 +118,6 @@ class frmPrzegladKontrahentow : public QDialog {
 
   KontrahentRekord kopia_;  // pubKontrahent as it was at load, for cmdAnuluj
   int szerokoscWaska_ = 400;
+  int najwezsza_ = 0;  // the narrowest list part that shows the names whole
+  int pasek_ = 0;      // the width that shows every command of the strip
 };

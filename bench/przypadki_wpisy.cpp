@@ -10,7 +10,7 @@
 #include "ledger/transakcje.h"
 #include "masterdata/konta.h"
 #include "rejestr.h"
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/kwota.h"
 #include "store/session.h"

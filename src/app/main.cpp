@@ -8,10 +8,11 @@
 #include <cstdio>
 
 #include "budowa.h"
-#include "setup/MsgBoxModule.h"
-#include "setup/frmMsgBox.h"
-#include "setup/galeria_gui.h"
-#include "setup/obrazki_gui.h"
+#include "store/MsgBoxModule.h"
+#include "ui/frmMsgBox.h"
+#include "app/ekrany_gui.h"
+#include "app/galeria_gui.h"
+#include "ui/obrazki_gui.h"
 #include "setup/start_gui.h"
 #include "store/baza.h"
 #include "store/dzis.h"
@@ -80,6 +81,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Zorvik"));
   QApplication::setWindowIcon(IkonaProgramu());
+  ZarejestrujEkrany();
   HostOkienkowy host;
   UstawHostKomunikatow(&host);
 

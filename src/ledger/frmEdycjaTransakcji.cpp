@@ -14,10 +14,7 @@
 #include "calculator/PoleKwoty_gui.h"
 #include "ledger/edytorwpisu_gui.h"
 #include "ledger/transakcje.h"
-#include "mainwindow/frmMain.h"
-#include "masterdata/frmPrzegladKategorii.h"
-#include "masterdata/frmPrzegladKont.h"
-#include "masterdata/frmPrzegladKontrahentow.h"
+#include "ui/nawigacja_gui.h"
 #include "masterdata/kategorie.h"
 #include "masterdata/konta.h"
 #include "masterdata/kontrahenci.h"
@@ -235,10 +232,7 @@ void frmEdycjaTransakcji::cmdWybierzKonto_Click() {
   PozycjaPrzy(lblKonto_);
   sesja.pubTrybPrzegladu = 2;
   sesja.pubSzczegoly = 0;
-  {
-    frmPrzegladKont picker(this);
-    picker.exec();
-  }
+  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
   OdswiezEtykiety();
 }
 
@@ -246,10 +240,7 @@ void frmEdycjaTransakcji::cmdWybierzKategorie_Click() {
   PozycjaPrzy(lblKategoria_);
   sesja.pubTrybPrzegladu = 2;
   sesja.pubSzczegoly = 0;
-  {
-    frmPrzegladKategorii picker(this);
-    picker.exec();
-  }
+  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKategorii"), this);
   OdswiezEtykiety();
 }
 
@@ -257,10 +248,7 @@ void frmEdycjaTransakcji::cmdWybierzKontrahenta_Click() {
   PozycjaPrzy(lblKontrahent_);
   sesja.pubTrybPrzegladu = 2;
   sesja.pubSzczegoly = 0;
-  {
-    frmPrzegladKontrahentow picker(this);
-    picker.exec();
-  }
+  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKontrahentow"), this);
   OdswiezEtykiety();
 }
 
@@ -281,9 +269,7 @@ DaneTransakcji frmEdycjaTransakcji::Dane() const {
 void frmEdycjaTransakcji::cmdOk_Click() {
   switch (ZapiszTransakcje(Dane())) {
     case WynikEdycji::Zapisano:
-      OdswiezMain();
-      OdswiezMainZaplanowane();
-      StanKont();
+      // The main window and the browsers refill themselves on the store's announcement.
       accept();
       break;
     case WynikEdycji::Zamknij:

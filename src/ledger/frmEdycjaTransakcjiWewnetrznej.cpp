@@ -13,8 +13,7 @@
 #include "calculator/PoleKwoty_gui.h"
 #include "ledger/edytorwpisu_gui.h"
 #include "ledger/transfery.h"
-#include "mainwindow/frmMain.h"
-#include "masterdata/frmPrzegladKont.h"
+#include "ui/nawigacja_gui.h"
 #include "masterdata/konta.h"
 #include "store/baza.h"
 #include "store/napis.h"
@@ -190,10 +189,7 @@ void frmEdycjaTransakcjiWewnetrznej::wybierzKonto(KontoRekord& konto, QLabel* et
   sesja.pubSzczegoly = 0;
   // The browser works on pubKonto; its balance is the only source of the record's.
   sesja.pubKonto = konto;
-  {
-    frmPrzegladKont picker(this);
-    picker.exec();
-  }
+  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
   konto = sesja.pubKonto;
   OdswiezEtykiety();
 }
@@ -217,9 +213,7 @@ DaneTransferu frmEdycjaTransakcjiWewnetrznej::Dane() const {
 void frmEdycjaTransakcjiWewnetrznej::cmdOK_Click() {
   switch (ZapiszTransfer(Dane())) {
     case WynikEdycji::Zapisano:
-      OdswiezMainWewnetrzne();
-      OdswiezMainWewnetrzneZaplanowane();
-      StanKont();
+      // The main window and the browsers refill themselves on the store's announcement.
       accept();
       break;
     case WynikEdycji::Zamknij:

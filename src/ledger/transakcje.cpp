@@ -3,7 +3,7 @@
 #include <QVariant>
 #include <cmath>
 
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/kwota.h"
 #include "store/napis.h"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/tekst.h"

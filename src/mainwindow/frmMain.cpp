@@ -16,8 +16,7 @@
 #include <QVBoxLayout>
 
 #include "mainwindow/polecenia_gui.h"
-#include "setup/frmStart.h"
-#include "setup/obrazki_gui.h"
+#include "ui/obrazki_gui.h"
 #include "store/baza.h"
 #include "store/dzis.h"
 #include "store/filtr.h"
@@ -25,6 +24,7 @@
 #include "store/przypomnienia.h"
 #include "store/session.h"
 #include "store/tekst.h"
+#include "store/zmiany.h"
 
 namespace {
 frmMain*& instancja() {
@@ -78,6 +78,18 @@ frmMain::frmMain(QWidget* rodzic) : QMainWindow(rodzic) {
   OdswiezMainWewnetrzneZaplanowane();
   StanKont();
   OdswiezStatus();
+  connect(Zmiany::Instancja(), &Zmiany::DaneZmienione, this, &frmMain::DaneZmienione);
+}
+
+void frmMain::DaneZmienione(unsigned tabele) {
+  using namespace Tabele;
+  // Names of accounts, categories and counterparties show in every list.
+  const unsigned nazwy = Konta | Kategorie | Kontrahent;
+  if (tabele & (Transakcje | nazwy)) OdswiezMain();
+  if (tabele & (Zaplanowane | nazwy)) OdswiezMainZaplanowane();
+  if (tabele & (Wewnetrzne | Konta)) OdswiezMainWewnetrzne();
+  if (tabele & (ZaplanowaneWewnetrzne | Konta)) OdswiezMainWewnetrzneZaplanowane();
+  if (tabele & (Transakcje | Wewnetrzne | Konta)) StanKont();
 }
 
 frmMain::~frmMain() {
@@ -337,11 +349,7 @@ void frmMain::resizeEvent(QResizeEvent* e) {
   OdswiezStatus();
 }
 
-void frmMain::showEvent(QShowEvent* e) {
-  QMainWindow::showEvent(e);
-  // The splash has done its work once the main window stands.
-  UkryjStart();
-}
+void frmMain::showEvent(QShowEvent* e) { QMainWindow::showEvent(e); }
 
 void frmMain::ZapiszNotatnik() {
   QString tekst;

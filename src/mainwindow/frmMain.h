@@ -16,7 +16,7 @@ class frmMain : public QMainWindow {
   // The one main window, or null while there is none.
   static frmMain* Instancja();
 
-  // Refills of the dashboard, called by the editors after a change.
+  // Refills of the dashboard; run when the store announces a change of the tables they show.
   void OdswiezMain();
   void OdswiezMainZaplanowane();
   void OdswiezMainWewnetrzne();
@@ -32,6 +32,7 @@ class frmMain : public QMainWindow {
   void Przywroc();
 
  protected:
+  void DaneZmienione(unsigned tabele);
   void changeEvent(QEvent* e) override;
   void resizeEvent(QResizeEvent* e) override;
   void showEvent(QShowEvent* e) override;

@@ -2,26 +2,24 @@
 
 #include <QHash>
 
-#include "calculator/frmKalkulatorCaly.h"
-#include "ledger/frmEdycjaTransakcji.h"
-#include "ledger/frmEdycjaTransakcjiWewnetrznej.h"
-#include "ledger/frmZmianaDaty.h"
 #include "mainwindow/frmMain.h"
-#include "masterdata/frmPrzegladKategorii.h"
-#include "masterdata/frmPrzegladKont.h"
-#include "masterdata/frmPrzegladKontrahentow.h"
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/napis.h"
 #include "store/session.h"
+#include "ui/nawigacja_gui.h"
 
 namespace {
+bool pokaz(const char* ekran) {
+  return Nawigacja::Pokaz(QLatin1String(ekran), frmMain::Instancja());
+}
+
 // A new income (1) or expense (2) entry, executed (tryb 2) or planned (tryb 1).
 void NowaTransakcja(int tryb, int rodzaj) {
   sesja.pubTryb = tryb;
   sesja.pubTransakcja.id = 0;
   sesja.pubTransakcja.rodzaj = rodzaj;
   sesja.pubKategoria.rodzaj = rodzaj;
-  frmEdycjaTransakcji(frmMain::Instancja()).exec();
+  pokaz("frmEdycjaTransakcji");
 }
 
 // A new transfer, executed (tryb 2) or planned (tryb 1).
@@ -30,34 +28,36 @@ void NowyTransfer(int tryb) {
   sesja.pubTransakcja.id = 0;
   sesja.pubTransakcja.rodzaj = 3;
   sesja.pubTransfer = 0;
-  frmEdycjaTransakcjiWewnetrznej(frmMain::Instancja()).exec();
+  pokaz("frmEdycjaTransakcjiWewnetrznej");
 }
 
-// Every command with a handler, one line each. A screen that comes later adds its line here,
-// and its menu item and button are enabled from then on.
+// Browsing master data with the details open, centred over the main window.
+void Przegladaj(const char* ekran) {
+  sesja.pubTrybPrzegladu = 1;
+  sesja.pubSzczegoly = 1;
+  sesja.pubPozycjaX = sesja.pubPozycjaY = -1;
+  pokaz(ekran);
+}
+
+// The commands that need more than showing a screen, one line each. The lists and the balance
+// panel refill themselves when the store announces a change.
 const QHash<QString, Polecenie>& tabela() {
   static const QHash<QString, Polecenie> t = {
       {QStringLiteral("mnuKoniecPracy"), [] { ZakonczProgram(); }},
-      {QStringLiteral("cmdMenu(17)"), [] { frmKalkulatorCaly::Pokaz(frmMain::Instancja()); }},
       {QStringLiteral("mnuKonta"),
        [] {
-         // Browsing with the details open, centred over the main window.
-         sesja.pubTrybPrzegladu = 1;
-         sesja.pubSzczegoly = 1;
-         sesja.pubPozycjaX = sesja.pubPozycjaY = -1;
-         frmPrzegladKont(frmMain::Instancja()).exec();
-         StanKont();
+         Przegladaj("frmPrzegladKont");
          OdswiezStatus();
        }},
       {QStringLiteral("mnuKategoriePrzychodow"),
        [] {
-         frmPrzegladKategorii::Przegladaj(1, frmMain::Instancja());
-         OdswiezMain();
+         sesja.pubKategoria.rodzaj = 1;
+         Przegladaj("frmPrzegladKategorii");
        }},
       {QStringLiteral("mnuKategorieWydatkow"),
        [] {
-         frmPrzegladKategorii::Przegladaj(2, frmMain::Instancja());
-         OdswiezMain();
+         sesja.pubKategoria.rodzaj = 2;
+         Przegladaj("frmPrzegladKategorii");
        }},
       {QStringLiteral("mnuPrzychod"), [] { NowaTransakcja(2, 1); }},
       {QStringLiteral("mnuWydatek"), [] { NowaTransakcja(2, 2); }},
@@ -65,19 +65,10 @@ const QHash<QString, Polecenie>& tabela() {
       {QStringLiteral("mnuWydatekZaplanowany"), [] { NowaTransakcja(1, 2); }},
       {QStringLiteral("mnuTransakcjaWewnetrzna"), [] { NowyTransfer(2); }},
       {QStringLiteral("mnuTransakcjaWewnetrznaZaplanowana"), [] { NowyTransfer(1); }},
-      {QStringLiteral("mnuKontrahent"),
-       [] {
-         sesja.pubTrybPrzegladu = 1;
-         sesja.pubSzczegoly = 1;
-         sesja.pubPozycjaX = sesja.pubPozycjaY = -1;
-         frmPrzegladKontrahentow(frmMain::Instancja()).exec();
-         OdswiezMain();
-         OdswiezMainZaplanowane();
-         StanKont();
-       }},
+      {QStringLiteral("mnuKontrahent"), [] { Przegladaj("frmPrzegladKontrahentow"); }},
       {QStringLiteral("mnuZmianaDaty"),
        [] {
-         frmZmianaDaty(frmMain::Instancja()).exec();
+         pokaz("frmZmianaDaty");
          OdswiezStatus();
        }},
       {QStringLiteral("cmdMenu(18)"),
@@ -86,6 +77,33 @@ const QHash<QString, Polecenie>& tabela() {
                       MsgTakNie, IkonaPytanie) == WynikTak)
            ZakonczProgram();
        }},
+  };
+  return t;
+}
+
+// Commands that only show a screen of their own. Each is enabled as soon as its screen is
+// registered (app/ekrany_gui.cpp): that one line is all a new screen needs.
+const QHash<QString, QString>& ekranyPolecen() {
+  static const QHash<QString, QString> t = {
+      {QStringLiteral("cmdMenu(17)"), QStringLiteral("frmKalkulatorCaly")},
+      {QStringLiteral("cmdMenu(22)"), QStringLiteral("frmParagon")},
+      {QStringLiteral("mnuSzablonyPrzychody"), QStringLiteral("frmSzablonyZewnetrzne")},
+      {QStringLiteral("mnuSzablonyWydatki"), QStringLiteral("frmSzablonyZewnetrzne")},
+      {QStringLiteral("mnuSzablonyWewnetrzne"), QStringLiteral("frmSzablonyWewnetrzne")},
+      {QStringLiteral("mnuParagon"), QStringLiteral("frmParagon")},
+      {QStringLiteral("mnuOkresowe"), QStringLiteral("frmOkresowe")},
+      {QStringLiteral("mnuKalendarz"), QStringLiteral("frmKalendarz")},
+      {QStringLiteral("mnuSymulacjaOszczednosciKategorii"),
+       QStringLiteral("frmKategorieOszczednosci")},
+      {QStringLiteral("mnuPrzelew"), QStringLiteral("frmEdycjaPrzelewu")},
+      {QStringLiteral("mnuUstawieniaUzytkownika"), QStringLiteral("frmUstawienia")},
+      {QStringLiteral("mnuUstawieniaKolorow"), QStringLiteral("frmKolory")},
+      {QStringLiteral("mnuKonfiguracja"), QStringLiteral("frmKonfiguracja")},
+      {QStringLiteral("mnuKreator"), QStringLiteral("frmKreatorWitamy")},
+      {QStringLiteral("mnuZadajPytanie"), QStringLiteral("frmZadajPytanie")},
+      {QStringLiteral("mnuUstawieniaInternetowe"), QStringLiteral("frmUstawieniaInternetowe")},
+      {QStringLiteral("mnuPomoc"), QStringLiteral("frmPomoc")},
+      {QStringLiteral("mnuOProgramie"), QStringLiteral("frmOProgramie")},
   };
   return t;
 }
@@ -155,11 +173,21 @@ QString NazwaPolecenia(const QString& nazwa) {
   return nazwa;
 }
 
-bool MaPolecenie(const QString& nazwa) { return tabela().contains(NazwaPolecenia(nazwa)); }
+bool MaPolecenie(const QString& nazwa) {
+  const QString polecenie = NazwaPolecenia(nazwa);
+  if (tabela().contains(polecenie)) return true;
+  const auto ekran = ekranyPolecen().constFind(polecenie);
+  return ekran != ekranyPolecen().constEnd() && Nawigacja::Dostepny(*ekran);
+}
 
 bool UruchomPolecenie(const QString& nazwa) {
-  const auto it = tabela().constFind(NazwaPolecenia(nazwa));
-  if (it == tabela().constEnd()) return false;
-  (*it)();
-  return true;
+  const QString polecenie = NazwaPolecenia(nazwa);
+  const auto it = tabela().constFind(polecenie);
+  if (it != tabela().constEnd()) {
+    (*it)();
+    return true;
+  }
+  const auto ekran = ekranyPolecen().constFind(polecenie);
+  return ekran != ekranyPolecen().constEnd() &&
+         Nawigacja::Pokaz(*ekran, frmMain::Instancja());
 }

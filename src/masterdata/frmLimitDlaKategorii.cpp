@@ -10,7 +10,7 @@
 
 #include "calculator/PoleKwoty_gui.h"
 #include "masterdata/kategorie.h"
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/napis.h"
 #include "store/session.h"
 

@@ -19,16 +19,16 @@
 #include <algorithm>
 #include <vector>
 
-#include "mainwindow/polecenia_gui.h"
+#include "ui/nawigacja_gui.h"
 #include "masterdata/frmEdycjaKategorii.h"
 #include "masterdata/frmLimitDlaKategorii.h"
 #include "masterdata/kategorie.h"
-#include "masterdata/przegladarka_gui.h"
-#include "masterdata/przyciskifiltra_gui.h"
+#include "ui/przegladarka_gui.h"
+#include "ui/przyciskifiltra_gui.h"
+#include "ui/wyszukiwanie_gui.h"
+#include "ui/wykresy_gui.h"
+#include "store/MsgBoxModule.h"
 #include "masterdata/szerokosci_gui.h"
-#include "masterdata/wyszukiwanie_gui.h"
-#include "reports/wykresy_gui.h"
-#include "setup/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/filtr.h"
 #include "store/napis.h"
@@ -41,12 +41,12 @@ constexpr int PierwszyDoSzukania = 2;
 constexpr int SzerokoscSzczegolow = 440;
 constexpr WymiarySzczegolow Wymiary{380, SzerokoscSzczegolow, 600};
 
-// Screens of other parts that this browser opens are reached by name through the command table;
-// a button whose screen is not in the program stays off.
+// Screens of other parts that this browser opens are reached by name; a button whose screen is
+// not in the program stays off.
 const QString EkranWpisow = QStringLiteral("frmPrzegladTransakcji");
 const QString EkranRaportu = QStringLiteral("frmRaportKategorii");
 const QString EkranWCzasie = QStringLiteral("frmRaportKategorieWCzasie");
-const QString EkranPomocy = QStringLiteral("mnuPomoc");
+const QString EkranPomocy = QStringLiteral("frmPomoc");
 
 // The colours of the breakdown, shared by the list's icons and the chart, in this order.
 QColor kolorRozbicia(int i) {
@@ -104,7 +104,7 @@ frmPrzegladKategorii::frmPrzegladKategorii(QWidget* parent) : QDialog(parent) {
   OtworzBaze();
   rodzaj_ = sesja.pubKategoria.rodzaj == 1 ? 1 : 2;
   zbuduj();
-  if (sesja.pubPrzegladOtwarty == -1 || !MaPolecenie(EkranWpisow)) {
+  if (sesja.pubPrzegladOtwarty == -1 || !Nawigacja::Dostepny(EkranWpisow)) {
     // The entry browser already stands behind this form (or is not in the program).
     cmdPrzeglad_->setEnabled(false);
     cmdMenu_[3]->setEnabled(false);
@@ -183,12 +183,12 @@ void frmPrzegladKategorii::zbuduj() {
   connect(cmdMenu_[4], &QToolButton::clicked, this, [this] { cmdRaport_Click(true); });
   connect(cmdMenu_[5], &QToolButton::clicked, this, [this] { cmdRaport_Click(false); });
   connect(cmdMenu_[6], &QToolButton::clicked, this, &frmPrzegladKategorii::cmdWCzasie_Click);
-  connect(cmdMenu_[7], &QToolButton::clicked, this, [] { UruchomPolecenie(EkranPomocy); });
+  connect(cmdMenu_[7], &QToolButton::clicked, this, [this] { Nawigacja::Pokaz(EkranPomocy, this); });
   connect(cmdMenu_[8], &QToolButton::clicked, this, &frmPrzegladKategorii::NowaPodkategoria);
-  cmdMenu_[4]->setEnabled(MaPolecenie(EkranRaportu));
-  cmdMenu_[5]->setEnabled(MaPolecenie(EkranRaportu));
-  cmdMenu_[6]->setEnabled(MaPolecenie(EkranWCzasie));
-  cmdMenu_[7]->setEnabled(MaPolecenie(EkranPomocy));
+  cmdMenu_[4]->setEnabled(Nawigacja::Dostepny(EkranRaportu));
+  cmdMenu_[5]->setEnabled(Nawigacja::Dostepny(EkranRaportu));
+  cmdMenu_[6]->setEnabled(Nawigacja::Dostepny(EkranWCzasie));
+  cmdMenu_[7]->setEnabled(Nawigacja::Dostepny(EkranPomocy));
 
   // The search.
   auto* lblKlucz = EtykietaPrzegladarki(QStringLiteral("lblKlucz"),
@@ -427,9 +427,9 @@ QWidget* frmPrzegladKategorii::zbudujSzczegoly() {
   connect(cmdRaportDetaliczny_, &QPushButton::clicked, this, [this] { cmdRaport_Click(true); });
   connect(cmdRaportZbiorczy_, &QPushButton::clicked, this, [this] { cmdRaport_Click(false); });
   connect(cmdWCzasie_, &QPushButton::clicked, this, &frmPrzegladKategorii::cmdWCzasie_Click);
-  cmdRaportDetaliczny_->setEnabled(MaPolecenie(EkranRaportu));
-  cmdRaportZbiorczy_->setEnabled(MaPolecenie(EkranRaportu));
-  cmdWCzasie_->setEnabled(MaPolecenie(EkranWCzasie));
+  cmdRaportDetaliczny_->setEnabled(Nawigacja::Dostepny(EkranRaportu));
+  cmdRaportZbiorczy_->setEnabled(Nawigacja::Dostepny(EkranRaportu));
+  cmdWCzasie_->setEnabled(Nawigacja::Dostepny(EkranWCzasie));
   auto* polecenia = new QGridLayout;
   polecenia->addWidget(cmdPrzeglad_, 0, 0);
   polecenia->addWidget(cmdWCzasie_, 0, 1);
@@ -771,7 +771,7 @@ void frmPrzegladKategorii::cmdPrzeglad_Click() {
   sesja.pubTytulTransakcji.clear();
   sesja.pubWierszTransakcji = 0;
   sesja.pubTryb = 2;
-  UruchomPolecenie(EkranWpisow);
+  Nawigacja::Pokaz(EkranWpisow, this);
   filtr_->NacisnijBiezacy();
 }
 
@@ -782,7 +782,7 @@ void frmPrzegladKategorii::cmdRaport_Click(bool detaliczny) {
   sesja.pubKategoria.identyfikator = klucz(item);
   sesja.pubKategoria.rodzaj = rodzaj_;
   sesja.pubOkres = FiltrCzasowy(sesja.pubFiltrCzasowy);
-  UruchomPolecenie(EkranRaportu);
+  Nawigacja::Pokaz(EkranRaportu, this);
 }
 
 void frmPrzegladKategorii::cmdWCzasie_Click() {
@@ -790,5 +790,5 @@ void frmPrzegladKategorii::cmdWCzasie_Click() {
   if (!item) return;
   sesja.pubKategoria.identyfikator = klucz(item);
   sesja.pubKategoria.rodzaj = rodzaj_;
-  UruchomPolecenie(EkranWCzasie);
+  Nawigacja::Pokaz(EkranWCzasie, this);
 }

@@ -19,12 +19,13 @@
 
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/konta.h"
-#include "masterdata/przegladarka_gui.h"
-#include "masterdata/przyciskifiltra_gui.h"
+#include "ui/nawigacja_gui.h"
+#include "ui/przegladarka_gui.h"
+#include "ui/przyciskifiltra_gui.h"
+#include "ui/wyszukiwanie_gui.h"
+#include "ui/wykresy_gui.h"
+#include "store/MsgBoxModule.h"
 #include "masterdata/szerokosci_gui.h"
-#include "masterdata/wyszukiwanie_gui.h"
-#include "reports/wykresy_gui.h"
-#include "setup/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/filtr.h"
 #include "store/napis.h"
@@ -39,12 +40,12 @@ constexpr int SzerokoscSzczegolow = 430;
 constexpr WymiarySzczegolow Wymiary{360, SzerokoscSzczegolow, 560};
 
 // The screens this browser opens for a node: the entry and transfer lists and the two account
-// reports. They belong to other parts of the program and are shown modally.
-enum class EkranListy { Transakcje, Transfery, RaportKont, RaportKontWCzasie };
-
-bool DostepnyEkran(EkranListy) { return false; }
-
-void PokazEkranListy(QWidget*, EkranListy) {}
+// reports. They belong to other parts of the program, reached by name; a button whose screen
+// is not in the program stays off.
+const QString EkranTransakcji = QStringLiteral("frmPrzegladTransakcji");
+const QString EkranTransferow = QStringLiteral("frmPrzegladTransakcjiWewnetrznych");
+const QString EkranRaportu = QStringLiteral("frmRaportKont");
+const QString EkranWCzasie = QStringLiteral("frmRaportKontaWCzasie");
 
 // The three states of the over-limit test: in order, within the overdraft, over the limit.
 QPixmap obrazekLimitu(int stan) {
@@ -86,16 +87,16 @@ frmPrzegladKont::frmPrzegladKont(QWidget* parent) : QDialog(parent) {
   }
   // A command whose screen this build doesn't have stays off.
   for (auto [ekran, polecenia] :
-       {std::pair{EkranListy::Transakcje,
+       {std::pair{EkranTransakcji,
                   QStringList{QStringLiteral("cmdPrzeglad"), QStringLiteral("cmdMenu(3)")}},
-        std::pair{EkranListy::Transfery, QStringList{QStringLiteral("cmdPrzegladWewnetrznych")}},
+        std::pair{EkranTransferow, QStringList{QStringLiteral("cmdPrzegladWewnetrznych")}},
         std::pair{
-            EkranListy::RaportKont,
+            EkranRaportu,
             QStringList{QStringLiteral("cmdRaportDetaliczny"), QStringLiteral("cmdRaportZbiorczy"),
                         QStringLiteral("cmdMenu(4)"), QStringLiteral("cmdMenu(5)")}},
-        std::pair{EkranListy::RaportKontWCzasie,
+        std::pair{EkranWCzasie,
                   QStringList{QStringLiteral("cmdWCzasie"), QStringLiteral("cmdMenu(6)")}}})
-    if (!DostepnyEkran(ekran))
+    if (!Nawigacja::Dostepny(ekran))
       for (const QString& nazwa : polecenia)
         if (auto* w = findChild<QWidget*>(nazwa)) w->setEnabled(false);
   sesja.pubWidokZrodlowy = 1;
@@ -598,7 +599,7 @@ void frmPrzegladKont::cmdPrzeglad_Click() {
   sesja.pubTytulTransakcji = f.tytul;
   sesja.pubWierszTransakcji = 0;
   sesja.pubTryb = 2;
-  PokazEkranListy(this, EkranListy::Transakcje);
+  Nawigacja::Pokaz(EkranTransakcji, this);
   filtr_->NacisnijBiezacy();
 }
 
@@ -612,17 +613,17 @@ void frmPrzegladKont::cmdPrzegladWewnetrznych_Click() {
   sesja.pubFiltrTransferowKonto = f.konto;
   sesja.pubWierszTransferu = 0;
   sesja.pubTryb = 2;
-  PokazEkranListy(this, EkranListy::Transfery);
+  Nawigacja::Pokaz(EkranTransferow, this);
   PokazWezel();
 }
 
 void frmPrzegladKont::cmdRaport_Click(bool detaliczny) {
   sesja.pubRaportDetaliczny = detaliczny;
   sesja.pubOkres = FiltrCzasowy(sesja.pubFiltrCzasowy);
-  PokazEkranListy(this, EkranListy::RaportKont);
+  Nawigacja::Pokaz(EkranRaportu, this);
 }
 
 void frmPrzegladKont::cmdWCzasie_Click() {
   sesja.pubOkres = FiltrCzasowy(sesja.pubFiltrCzasowy);
-  PokazEkranListy(this, EkranListy::RaportKontWCzasie);
+  Nawigacja::Pokaz(EkranWCzasie, this);
 }

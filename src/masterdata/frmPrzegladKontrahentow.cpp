@@ -16,14 +16,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ledger/frmEdycjaTransakcji.h"
-#include "mainwindow/frmMain.h"
+#include "ui/nawigacja_gui.h"
 #include "masterdata/frmEdycjaKontrahenta.h"
 #include "masterdata/kontrahenci.h"
-#include "masterdata/przegladarka_gui.h"
-#include "masterdata/przyciskifiltra_gui.h"
+#include "ui/przegladarka_gui.h"
+#include "ui/przyciskifiltra_gui.h"
+#include "ui/wyszukiwanie_gui.h"
 #include "masterdata/szerokosci_gui.h"
-#include "masterdata/wyszukiwanie_gui.h"
 #include "store/baza.h"
 #include "store/filtr.h"
 #include "store/napis.h"
@@ -57,24 +56,20 @@ QTreeWidget* lista(const QString& nazwa, const QStringList& naglowki, QWidget* r
 }
 }  // namespace
 
-frmPrzegladKontrahentow::Ekrany& frmPrzegladKontrahentow::EkranyZewnetrzne() {
-  static Ekrany e;
-  return e;
-}
-
 frmPrzegladKontrahentow::frmPrzegladKontrahentow(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmPrzegladKontrahentow"));
   OtworzBaze();
   zbuduj();
-  const Ekrany& e = EkranyZewnetrzne();
+  const auto jest = [](const char* ekran) { return Nawigacja::Dostepny(QLatin1String(ekran)); };
   // The entry browser may already stand behind this form.
-  cmdPrzegladDokonanych_->setEnabled(sesja.pubPrzegladOtwarty != -1 && bool(e.przegladTransakcji));
+  cmdPrzegladDokonanych_->setEnabled(sesja.pubPrzegladOtwarty != -1 &&
+                                     jest("frmPrzegladTransakcji"));
   cmdMenu_[3]->setEnabled(cmdPrzegladDokonanych_->isEnabled());
   for (const char* nazwa : {"cmdRaportDetaliczny", "cmdRaportZbiorczy", "cmdMenu(4)", "cmdMenu(5)"})
-    findChild<QWidget*>(QLatin1String(nazwa))->setEnabled(bool(e.raport));
+    findChild<QWidget*>(QLatin1String(nazwa))->setEnabled(jest("frmRaportKontrahenta"));
   for (const char* nazwa : {"cmdPrzegladKontrahentawCzasie", "cmdMenu(6)"})
-    findChild<QWidget*>(QLatin1String(nazwa))->setEnabled(bool(e.raportWCzasie));
-  cmdPrzelew_->setEnabled(bool(e.przelew));
+    findChild<QWidget*>(QLatin1String(nazwa))->setEnabled(jest("frmRaportKontrahentaWCzasie"));
+  cmdPrzelew_->setEnabled(jest("frmEdycjaPrzelewu"));
   // The payment slip is a Polish form: the English edition has no such button.
   if (sesja.pubJezyk != 1) {
     delete cmdPrzelew_;
@@ -552,10 +547,7 @@ void frmPrzegladKontrahentow::otworzEdytor(int tryb, qint64 id, int rodzaj) {
   sesja.pubKontrahent.id = idZKlucza(wybrany());
   sesja.pubKontrahent.skrocona = wybrany()->text(0);
   sesja.pubPrzedefiniowanyKontrahent = -1;
-  {
-    frmEdycjaTransakcji edytor(this);
-    edytor.exec();
-  }
+  Nawigacja::Pokaz(QStringLiteral("frmEdycjaTransakcji"), this);
   sesja.pubPrzedefiniowanyKontrahent = 0;
   // The editor's pickers have cleared it: this form still stands behind.
   sesja.pubWidokZrodlowy = 3;
@@ -593,7 +585,6 @@ void frmPrzegladKontrahentow::cmdUsunZaplanowana_Click() {
   QTreeWidgetItem* z = wybranaZaplanowana();
   if (!z) return;
   if (UsunZaplanowanaKontrahenta(idZKlucza(z))) {
-    OdswiezMainZaplanowane();
     OdswiezZaplanowane();
   }
   sesja.pubSzczegoly = 1;
@@ -603,10 +594,10 @@ void frmPrzegladKontrahentow::cmdPrzelew_Click() {
   QTreeWidgetItem* z = wybranaZaplanowana();
   if (!z || !wybrany()) return;
   // A slip pays an expense; on an income there is nothing to pay.
-  if (z->data(0, RolaWydatku).toDouble() != 0.0 && EkranyZewnetrzne().przelew) {
+  if (z->data(0, RolaWydatku).toDouble() != 0.0 && Nawigacja::Dostepny(QStringLiteral("frmEdycjaPrzelewu"))) {
     sesja.pubPrzelewKontrahent = idZKlucza(wybrany());
     sesja.pubPrzelewZaplanowana = idZKlucza(z);
-    EkranyZewnetrzne().przelew(this);
+    Nawigacja::Pokaz(QStringLiteral("frmEdycjaPrzelewu"), this);
   }
   sesja.pubSzczegoly = 1;
 }
@@ -615,7 +606,7 @@ void frmPrzegladKontrahentow::cmdPrzelew_Click() {
 
 void frmPrzegladKontrahentow::cmdPrzegladDokonanych_Click() {
   QTreeWidgetItem* item = wybrany();
-  if (!item || !EkranyZewnetrzne().przegladTransakcji) return;
+  if (!item || !Nawigacja::Dostepny(QStringLiteral("frmPrzegladTransakcji"))) return;
   if (optWszyscy_[0]->isChecked()) {
     sesja.pubFiltrTransakcji = QStringLiteral(" AND transakcje.kontrahent=") +
                                QString::number(idZKlucza(item)) + QLatin1Char(' ');
@@ -627,7 +618,7 @@ void frmPrzegladKontrahentow::cmdPrzegladDokonanych_Click() {
   }
   sesja.pubWierszTransakcji = 0;
   sesja.pubTryb = 2;
-  EkranyZewnetrzne().przegladTransakcji(this);
+  Nawigacja::Pokaz(QStringLiteral("frmPrzegladTransakcji"), this);
   filtr_->NacisnijBiezacy();
 }
 
@@ -637,16 +628,16 @@ void frmPrzegladKontrahentow::kontrahentRaportu() {
 }
 
 void frmPrzegladKontrahentow::cmdRaport_Click(bool detaliczny) {
-  if (!wybrany() || !EkranyZewnetrzne().raport) return;
+  if (!wybrany() || !Nawigacja::Dostepny(QStringLiteral("frmRaportKontrahenta"))) return;
   kontrahentRaportu();
   sesja.pubRaportDetaliczny = detaliczny;
-  EkranyZewnetrzne().raport(this);
+  Nawigacja::Pokaz(QStringLiteral("frmRaportKontrahenta"), this);
   PokazKontrahenta();
 }
 
 void frmPrzegladKontrahentow::cmdPrzegladKontrahentawCzasie_Click() {
-  if (!wybrany() || !EkranyZewnetrzne().raportWCzasie) return;
+  if (!wybrany() || !Nawigacja::Dostepny(QStringLiteral("frmRaportKontrahentaWCzasie"))) return;
   kontrahentRaportu();
-  EkranyZewnetrzne().raportWCzasie(this);
+  Nawigacja::Pokaz(QStringLiteral("frmRaportKontrahentaWCzasie"), this);
   PokazKontrahenta();
 }

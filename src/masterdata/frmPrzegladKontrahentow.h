@@ -30,13 +30,6 @@ class frmPrzegladKontrahentow : public QDialog {
   explicit frmPrzegladKontrahentow(QWidget* parent = nullptr);
   ~frmPrzegladKontrahentow() override;
 
-  // Screens of other parts of the program that this browser opens (the entry list, the two
-  // counterparty reports, the payment slip). A command stays off while its screen is not set.
-  struct Ekrany {
-    std::function<void(QWidget*)> przegladTransakcji, raport, raportWCzasie, przelew;
-  };
-  static Ekrany& EkranyZewnetrzne();
-
   // Reads the counterparties afresh, selects the one of pubKontrahent.id (else the first) and
   // shows it.
   void WypelnijListe();

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <map>
 
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/kwota.h"
 #include "store/napis.h"

@@ -1,6 +1,6 @@
 #include "masterdata/konta.h"
 
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/filtr.h"
 #include "store/kwota.h"
 #include "store/napis.h"

@@ -1,6 +1,6 @@
 #include "masterdata/kontrahenci.h"
 
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/kwota.h"
 #include "store/napis.h"

@@ -6,9 +6,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "setup/haslo.h"
-#include "setup/obrazki_gui.h"
+#include "ui/obrazki_gui.h"
 #include "store/napis.h"
 #include "store/session.h"
 

@@ -9,7 +9,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "setup/obrazki_gui.h"
+#include "ui/obrazki_gui.h"
 #include "store/napis.h"
 
 namespace {

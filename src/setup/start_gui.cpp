@@ -14,7 +14,7 @@
 
 #include "mainwindow/frmMain.h"
 #include "mainwindow/polecenia_gui.h"
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "setup/frmHaslo.h"
 #include "setup/frmStart.h"
 #include "store/baza.h"
@@ -265,6 +265,8 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
     okno->showMaximized();
   else
     okno->show();
+  // The splash has done its work once the main window stands.
+  UkryjStart();
 
   // On a first run the basic help comes up, once its screen exists.
   if (sesja.pubPierwszyStart && MaPolecenie(QStringLiteral("mnuPomocPodstawowa")))

@@ -8,8 +8,10 @@
 #include <QFile>
 #include <QTextStream>
 #include <cmath>
+#include <utility>
 
 #include "store/jet.h"
+#include "store/zmiany.h"
 #include "store/kwota.h"
 
 const char* const KluczBazy = "xqz";
@@ -133,6 +135,14 @@ WynikZapisu Baza::Wykonaj(const QString& jetSql) {
   if (kod == SQLITE_DONE) {
     w.ok = true;
     w.zmienione = sqlite3_changes(db_);
+    // Screens learn of the change at once, or at the commit of the change it belongs to.
+    if (w.zmienione > 0) {
+      const unsigned tabela = TabelaZapisu(jetSql);
+      if (glebokoscTransakcji_ > 0)
+        zmienioneTabele_ |= tabela;
+      else
+        OglosZmiane(tabela);
+    }
   } else {
     w.blad = QString::fromUtf8(sqlite3_errmsg(db_));
     ZapiszLog(QStringLiteral("write: %1 | %2 | %3").arg(w.blad, jetSql, QString::fromUtf8(sql)));
@@ -155,6 +165,7 @@ bool Baza::Transakcja(const std::function<bool()>& praca) {
     return false;
   }
   glebokoscTransakcji_ = 1;
+  zmienioneTabele_ = 0;
   bool ok = false;
   try {
     ok = praca();
@@ -162,7 +173,11 @@ bool Baza::Transakcja(const std::function<bool()>& praca) {
     ok = false;
   }
   glebokoscTransakcji_ = 0;
-  if (ok && sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK) return true;
+  if (ok && sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK) {
+    OglosZmiane(std::exchange(zmienioneTabele_, 0u));
+    return true;
+  }
+  zmienioneTabele_ = 0;
   if (ok) ZapiszLog(QStringLiteral("commit: %1").arg(QString::fromUtf8(sqlite3_errmsg(db_))));
   sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
   return false;

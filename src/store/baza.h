@@ -77,6 +77,7 @@ class Baza {
   sqlite3* db_ = nullptr;
   QString plik_;
   int glebokoscTransakcji_ = 0;
+  unsigned zmienioneTabele_ = 0;  // announced at the commit
 };
 
 // The program's store: <data folder>/money.fns, opened once; cheap on every later call.

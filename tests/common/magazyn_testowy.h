@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "budowa.h"
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 
 class MagazynTestowy {
  public:

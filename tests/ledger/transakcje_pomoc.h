@@ -10,7 +10,7 @@
 #include <ostream>
 
 #include "masterdata/konta.h"
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/session.h"

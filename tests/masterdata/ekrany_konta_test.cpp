@@ -23,7 +23,7 @@
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/konta.h"
-#include "masterdata/przyciskifiltra_gui.h"
+#include "ui/przyciskifiltra_gui.h"
 #include "store/filtr.h"
 #include "store/napis.h"
 #include "store/session.h"

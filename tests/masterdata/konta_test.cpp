@@ -8,7 +8,7 @@
 
 #include "common/magazyn_testowy.h"
 #include "konta_pomoc.h"
-#include "masterdata/wyszukiwanie.h"
+#include "ui/wyszukiwanie.h"
 #include "store/filtr.h"
 #include "store/kwota.h"
 #include "store/napis.h"

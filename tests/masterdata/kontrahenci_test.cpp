@@ -15,6 +15,7 @@
 #include <QTreeWidget>
 
 #include "common/magazyn_testowy.h"
+#include "ui/nawigacja_gui.h"
 #include "ledger/transakcje_pomoc.h"
 #include "masterdata/frmEdycjaKontrahenta.h"
 #include "masterdata/frmPrzegladKontrahentow.h"
@@ -199,9 +200,12 @@ class PrzegladKontrahentow : public ::testing::Test {
     sesja.pubSzczegoly = 1;
     sesja.pubKontrahent.id = beta;
   }
-  void TearDown() override { frmPrzegladKontrahentow::EkranyZewnetrzne() = {}; }
+  void TearDown() override {
+    Nawigacja::Zarejestruj(QStringLiteral("frmEdycjaPrzelewu"), std::move(dawnyPrzelew));
+  }
 
   MagazynTestowy m;
+  Nawigacja::Ekran dawnyPrzelew;
   qint64 konto = 0, alfa = 0, beta = 0, gamma = 0, przychod = 0, wydatek = 0;
 };
 }  // namespace
@@ -275,9 +279,9 @@ TEST_F(PrzegladKontrahentow, ListPanelsPickerAndSearch) {
 // Planned entries maintained from the browser: add, edit, realise, delete, and the slip.
 TEST_F(PrzegladKontrahentow, PlannedEntryActions) {
   QList<std::pair<qint64, qint64>> przelewy;
-  frmPrzegladKontrahentow::EkranyZewnetrzne().przelew = [&](QWidget*) {
+  dawnyPrzelew = Nawigacja::Zarejestruj(QStringLiteral("frmEdycjaPrzelewu"), [&](QWidget*) {
     przelewy << std::pair{sesja.pubPrzelewKontrahent, sesja.pubPrzelewZaplanowana};
-  };
+  });
   frmPrzegladKontrahentow f;
   f.show();
   auto* plan = Kontrolka<QTreeWidget>(&f, "lvwZaplanowane");

@@ -1,4 +1,4 @@
-#include "setup/obrazki_gui.h"
+#include "ui/obrazki_gui.h"
 
 #include <QGuiApplication>
 #include <QLinearGradient>

@@ -1,4 +1,4 @@
-#include "ledger/kalendarz_gui.h"
+#include "ui/kalendarz_gui.h"
 
 #include <QCalendarWidget>
 #include <QLocale>

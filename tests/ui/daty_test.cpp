@@ -8,8 +8,8 @@
 #include <QPushButton>
 
 #include "common/magazyn_testowy.h"
-#include "ledger/frmZakresDat.h"
-#include "ledger/frmZmianaDaty.h"
+#include "ui/frmZakresDat.h"
+#include "ui/frmZmianaDaty.h"
 #include "store/napis.h"
 #include "store/session.h"
 

@@ -1,11 +1,11 @@
-#include "setup/frmMsgBox.h"
+#include "ui/frmMsgBox.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
-#include "setup/obrazki_gui.h"
+#include "ui/obrazki_gui.h"
 #include "store/napis.h"
 
 namespace {

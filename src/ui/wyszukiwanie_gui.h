@@ -5,7 +5,7 @@
 #include <QObject>
 #include <functional>
 
-#include "masterdata/wyszukiwanie.h"
+#include "ui/wyszukiwanie.h"
 
 class QLineEdit;
 class QPushButton;

@@ -1,4 +1,4 @@
-#include "ledger/frmZakresDat.h"
+#include "ui/frmZakresDat.h"
 
 #include <QCalendarWidget>
 #include <QGridLayout>
@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ledger/kalendarz_gui.h"
-#include "setup/MsgBoxModule.h"
+#include "ui/kalendarz_gui.h"
+#include "store/MsgBoxModule.h"
 #include "store/napis.h"
 #include "store/session.h"
 

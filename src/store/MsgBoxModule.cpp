@@ -1,4 +1,4 @@
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 
 #include <cmath>
 

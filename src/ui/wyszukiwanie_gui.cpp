@@ -1,4 +1,4 @@
-#include "masterdata/wyszukiwanie_gui.h"
+#include "ui/wyszukiwanie_gui.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "masterdata/przegladarka_gui.h"
+#include "ui/przegladarka_gui.h"
 
 #include <QKeyEvent>
 #include <QLabel>

@@ -1,9 +1,9 @@
-#include "masterdata/przyciskifiltra_gui.h"
+#include "ui/przyciskifiltra_gui.h"
 
 #include <QGridLayout>
 #include <QPushButton>
 
-#include "ledger/frmZakresDat.h"
+#include "ui/frmZakresDat.h"
 #include "store/filtr.h"
 #include "store/session.h"
 

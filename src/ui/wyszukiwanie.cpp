@@ -1,4 +1,4 @@
-#include "masterdata/wyszukiwanie.h"
+#include "ui/wyszukiwanie.h"
 
 namespace {
 bool pasuje(const QString& tekstWezla, const QString& klucz) {

@@ -1,4 +1,4 @@
-#include "ledger/frmZmianaDaty.h"
+#include "ui/frmZmianaDaty.h"
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ledger/kalendarz_gui.h"
+#include "ui/kalendarz_gui.h"
 #include "store/napis.h"
 #include "store/session.h"
 

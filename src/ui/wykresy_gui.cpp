@@ -1,4 +1,4 @@
-#include "reports/wykresy_gui.h"
+#include "ui/wykresy_gui.h"
 
 #include <QBarCategoryAxis>
 #include <QBarSeries>

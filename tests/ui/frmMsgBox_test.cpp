@@ -1,4 +1,4 @@
-#include "setup/frmMsgBox.h"
+#include "ui/frmMsgBox.h"
 
 #include <gtest/gtest.h>
 

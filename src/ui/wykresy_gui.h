@@ -1,7 +1,7 @@
 #pragma once
 // Drawing the charts of wykresy.h on a chart view (Qt Charts).
 
-#include "reports/wykresy.h"
+#include "ui/wykresy.h"
 
 class QChartView;
 class QWidget;

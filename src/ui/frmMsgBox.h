@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "setup/MsgBoxModule.h"
+#include "store/MsgBoxModule.h"
 
 class QLabel;
 class QPushButton;

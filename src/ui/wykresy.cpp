@@ -1,4 +1,4 @@
-#include "reports/wykresy.h"
+#include "ui/wykresy.h"
 
 void DaneWykresu::Rozmiar(int w, int k) {
   wiersze = w < 0 ? 0 : w;

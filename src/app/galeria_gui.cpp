@@ -1,4 +1,4 @@
-#include "setup/galeria_gui.h"
+#include "app/galeria_gui.h"
 
 #include <QApplication>
 #include <QDir>
@@ -11,15 +11,15 @@
 #include "calculator/frmKalkulator.h"
 #include "calculator/frmKalkulatorCaly.h"
 #include "ledger/edytory_galeria_gui.h"
-#include "ledger/frmZakresDat.h"
-#include "ledger/frmZmianaDaty.h"
+#include "ui/frmZakresDat.h"
+#include "ui/frmZmianaDaty.h"
 #include "mainwindow/frmMain.h"
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/kategorie_galeria_gui.h"
 #include "masterdata/kontrahenci_galeria_gui.h"
 #include "setup/frmHaslo.h"
-#include "setup/frmMsgBox.h"
+#include "ui/frmMsgBox.h"
 #include "setup/frmStart.h"
 #include "setup/start_gui.h"
 #include "store/baza.h"

@@ -1,0 +1,31 @@
+#include "app/ekrany_gui.h"
+
+#include "calculator/frmKalkulatorCaly.h"
+#include "ledger/frmEdycjaTransakcji.h"
+#include "ledger/frmEdycjaTransakcjiWewnetrznej.h"
+#include "masterdata/frmPrzegladKategorii.h"
+#include "masterdata/frmPrzegladKont.h"
+#include "masterdata/frmPrzegladKontrahentow.h"
+#include "ui/frmZakresDat.h"
+#include "ui/frmZmianaDaty.h"
+#include "ui/nawigacja_gui.h"
+
+namespace {
+// A modal screen whose constructor reads the session and whose result goes back into it.
+template <typename Ekran>
+void modalny(const char* nazwa) {
+  Nawigacja::Zarejestruj(QLatin1String(nazwa), [](QWidget* rodzic) { Ekran(rodzic).exec(); });
+}
+}  // namespace
+
+void ZarejestrujEkrany() {
+  modalny<frmEdycjaTransakcji>("frmEdycjaTransakcji");
+  modalny<frmEdycjaTransakcjiWewnetrznej>("frmEdycjaTransakcjiWewnetrznej");
+  modalny<frmPrzegladKont>("frmPrzegladKont");
+  modalny<frmPrzegladKategorii>("frmPrzegladKategorii");
+  modalny<frmPrzegladKontrahentow>("frmPrzegladKontrahentow");
+  modalny<frmZmianaDaty>("frmZmianaDaty");
+  modalny<frmZakresDat>("frmZakresDat");
+  Nawigacja::Zarejestruj(QStringLiteral("frmKalkulatorCaly"),
+                         [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
+}

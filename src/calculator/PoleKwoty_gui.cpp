@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QToolButton>
+#include <algorithm>
 
 #include "calculator/frmKalkulator.h"
 #include "store/kwota.h"
@@ -120,9 +121,12 @@ int PoleKwoty::Szerokosc(const QLineEdit* pole) {
   opcje.lineWidth = pole->hasFrame()
                         ? pole->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &opcje, pole)
                         : 0;
-  const QSize tekst(pole->fontMetrics().horizontalAdvance(najszersza) + marginesy.left() +
-                        marginesy.right() + 2 * kMarginesPola + 2,
-                    pole->fontMetrics().height());
+  const QFontMetrics fm = pole->fontMetrics();
+  // Letters may reach beyond their advance at either end; the caret takes a pixel.
+  const int wystajace = std::max(0, -fm.minLeftBearing()) + std::max(0, -fm.minRightBearing());
+  const QSize tekst(fm.horizontalAdvance(najszersza) + wystajace + marginesy.left() +
+                        marginesy.right() + 2 * kMarginesPola + 1,
+                    fm.height());
   return pole->style()->sizeFromContents(QStyle::CT_LineEdit, &opcje, tekst, pole).width();
 }
 

@@ -12,7 +12,7 @@
 namespace {
 // The blank a line edit keeps on each side of its text inside the frame, and room for the caret.
 constexpr int kMarginesPola = 2;
-constexpr int kKursor = 2;
+constexpr int kKursor = 1;
 }  // namespace
 
 int SzerokoscNazwy(const QFontMetrics& fm) {
@@ -34,8 +34,11 @@ int SzerokoscPolaNazwy(const QLineEdit* pole) {
   opcje.lineWidth =
       pole->hasFrame() ? pole->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &opcje, pole) : 0;
   const QMargins m = pole->textMargins();
-  const QSize tekst(SzerokoscNazwy(pole->fontMetrics()) + m.left() + m.right() +
-                        2 * kMarginesPola + kKursor,
+  const QFontMetrics fm = pole->fontMetrics();
+  // Letters may reach beyond their advance at either end.
+  const int wystajace = std::max(0, -fm.minLeftBearing()) + std::max(0, -fm.minRightBearing());
+  const QSize tekst(SzerokoscNazwy(fm) + wystajace + m.left() + m.right() + 2 * kMarginesPola +
+                        kKursor,
                     pole->fontMetrics().height());
   return pole->style()->sizeFromContents(QStyle::CT_LineEdit, &opcje, tekst, pole).width();
 }

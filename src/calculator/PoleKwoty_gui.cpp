@@ -113,14 +113,13 @@ PoleZKalkulatorem PoleKwoty::NowePole(const QString& nazwaPola, const QString& n
 
 int PoleKwoty::Szerokosc(const QLineEdit* pole) {
   // The widest amount the program holds, with its sign, and the field's frame and margins.
-  const QString najszersza = QStringLiteral("-999999999999") + sesja.pubSeparator +
-                             QStringLiteral("99");
+  const QString najszersza =
+      QStringLiteral("-999999999999") + sesja.pubSeparator + QStringLiteral("99");
   const QMargins marginesy = pole->textMargins();
   QStyleOptionFrame opcje;
   opcje.initFrom(pole);
-  opcje.lineWidth = pole->hasFrame()
-                        ? pole->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &opcje, pole)
-                        : 0;
+  opcje.lineWidth =
+      pole->hasFrame() ? pole->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &opcje, pole) : 0;
   const QFontMetrics fm = pole->fontMetrics();
   // Letters may reach beyond their advance at either end; the caret takes a pixel.
   const int wystajace = std::max(0, -fm.minLeftBearing()) + std::max(0, -fm.minRightBearing());

@@ -35,8 +35,7 @@ QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzi
 
 }  // namespace
 
-frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent)
-    : QDialog(parent) {
+frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaTransakcji"));
   sesja.pubEdytorOtwarty = true;
   OtworzBaze();
@@ -68,8 +67,8 @@ frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent)
       // Blanks the save appended to the description are not part of what the user typed.
       QString opis = w->opis;
       while (opis.endsWith(QLatin1Char(' '))) opis.chop(1);
-    // A longer description from before the limit opens whole: nothing is cut unasked.
-    txtOpis_->setMaxLength(std::max(DlugoscOpisu, int(opis.size())));
+      // A longer description from before the limit opens whole: nothing is cut unasked.
+      txtOpis_->setMaxLength(std::max(DlugoscOpisu, int(opis.size())));
       txtOpis_->setText(opis);
       sesja.pubTransakcja.rodzaj = w->rodzaj;
       sesja.pubKontrahent.id = w->kontrahent;

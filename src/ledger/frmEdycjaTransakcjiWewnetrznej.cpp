@@ -30,8 +30,7 @@ QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzi
 
 }  // namespace
 
-frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent)
-    : QDialog(parent) {
+frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaTransakcjiWewnetrznej"));
   zbuduj();
   OtworzBaze();

@@ -386,10 +386,12 @@ QWidget* frmPrzegladKategorii::zbudujSzczegoly() {
     const QFontMetrics fm = lvwPodkategorie_->fontMetrics();
     const int margines =
         2 * (lvwPodkategorie_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 8;
-    const int kwota = std::max(fm.horizontalAdvance(FormatKwoty(9999999.99)),
-                               fm.horizontalAdvance(Napis(QStringLiteral("frmPrzegladKategorii16"))));
-    const int udzial = std::max(fm.horizontalAdvance(QStringLiteral("100.00")),
-                                fm.horizontalAdvance(Napis(QStringLiteral("frmPrzegladKategorii17"))));
+    const int kwota =
+        std::max(fm.horizontalAdvance(FormatKwoty(9999999.99)),
+                 fm.horizontalAdvance(Napis(QStringLiteral("frmPrzegladKategorii16"))));
+    const int udzial =
+        std::max(fm.horizontalAdvance(QStringLiteral("100.00")),
+                 fm.horizontalAdvance(Napis(QStringLiteral("frmPrzegladKategorii17"))));
     lvwPodkategorie_->setMinimumWidth(kolumnaNazwy + kwota + udzial + 2 * margines +
                                       lvwPodkategorie_->verticalScrollBar()->sizeHint().width() +
                                       2 * lvwPodkategorie_->frameWidth());

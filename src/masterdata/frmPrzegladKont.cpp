@@ -464,9 +464,9 @@ WymiarySzczegolow frmPrzegladKont::wymiary() const {
 }
 
 void frmPrzegladKont::ustawSzczegoly() {
-  PokazSzczegolyPrzegladarki(this, frmSzczegoly_, cmdSzczegoly_,
-                             Napis(QStringLiteral("frmPrzegladKont69")),
-                             Napis(QStringLiteral("frmPrzegladKont70")), wymiary(), szerokoscWaska_);
+  PokazSzczegolyPrzegladarki(
+      this, frmSzczegoly_, cmdSzczegoly_, Napis(QStringLiteral("frmPrzegladKont69")),
+      Napis(QStringLiteral("frmPrzegladKont70")), wymiary(), szerokoscWaska_);
 }
 
 // ---- commands --------------------------------------------------------------------------------

@@ -152,10 +152,9 @@ void frmPrzegladKontrahentow::zbuduj() {
   // The longest short name shows whole; the description gets the rest.
   const int kolumnaNazwy = SzerokoscKolumnyNazwy(lvwKontrahenci_, false);
   lvwKontrahenci_->setColumnWidth(0, kolumnaNazwy);
-  lvwKontrahenci_->setMinimumWidth(kolumnaNazwy +
-                                   lvwKontrahenci_->fontMetrics().horizontalAdvance(QLatin1Char('x')) * 12 +
-                                   lvwKontrahenci_->verticalScrollBar()->sizeHint().width() +
-                                   2 * lvwKontrahenci_->frameWidth());
+  lvwKontrahenci_->setMinimumWidth(
+      kolumnaNazwy + lvwKontrahenci_->fontMetrics().horizontalAdvance(QLatin1Char('x')) * 12 +
+      lvwKontrahenci_->verticalScrollBar()->sizeHint().width() + 2 * lvwKontrahenci_->frameWidth());
   lvwKontrahenci_->setContextMenuPolicy(Qt::CustomContextMenu);
   new KlawiszePrzegladarki(
       lvwKontrahenci_, [this] { SkasujKontrahenta(); }, [this] { cmdWybierz_Click(); });

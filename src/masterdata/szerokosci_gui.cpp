@@ -37,9 +37,9 @@ int SzerokoscPolaNazwy(const QLineEdit* pole) {
   const QFontMetrics fm = pole->fontMetrics();
   // Letters may reach beyond their advance at either end.
   const int wystajace = std::max(0, -fm.minLeftBearing()) + std::max(0, -fm.minRightBearing());
-  const QSize tekst(SzerokoscNazwy(fm) + wystajace + m.left() + m.right() + 2 * kMarginesPola +
-                        kKursor,
-                    pole->fontMetrics().height());
+  const QSize tekst(
+      SzerokoscNazwy(fm) + wystajace + m.left() + m.right() + 2 * kMarginesPola + kKursor,
+      pole->fontMetrics().height());
   return pole->style()->sizeFromContents(QStyle::CT_LineEdit, &opcje, tekst, pole).width();
 }
 

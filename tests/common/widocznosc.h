@@ -3,6 +3,7 @@
 // the room the style leaves for the text, as the widget is laid out on the screen.
 
 #include <QFontMetrics>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionFrame>
@@ -38,7 +39,11 @@ inline bool CalyWidoczny(const QLineEdit* pole) {
 inline bool CalaNazwa(const QTreeWidget* lista, const QTreeWidgetItem* linia) {
   QStyleOptionViewItem opcje;
   opcje.initFrom(lista->viewport());
+  // The line's rectangle spans all columns: keep the first column's part of it (behind the
+  // indentation of a tree).
   opcje.rect = lista->visualItemRect(linia);
+  const QHeaderView* naglowek = lista->header();
+  opcje.rect.setRight(naglowek->sectionViewportPosition(0) + naglowek->sectionSize(0) - 1);
   opcje.font = linia->font(0);
   opcje.fontMetrics = QFontMetrics(opcje.font);
   opcje.text = linia->text(0);
@@ -51,7 +56,8 @@ inline bool CalaNazwa(const QTreeWidget* lista, const QTreeWidgetItem* linia) {
     opcje.decorationSize = lista->iconSize().isValid() ? lista->iconSize() : QSize(maly, maly);
   }
   const QRect tekst = lista->style()->subElementRect(QStyle::SE_ItemViewItemText, &opcje, lista);
-  const int margines = lista->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, lista) + 1;
+  const int margines =
+      lista->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, lista) + 1;
   return opcje.rect.width() > 0 &&
          opcje.fontMetrics.horizontalAdvance(opcje.text) <= tekst.width() - 2 * margines;
 }

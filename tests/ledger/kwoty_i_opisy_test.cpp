@@ -96,8 +96,8 @@ TEST(DlugieKwotyEdytorow, RowsOfTenMillionAndMoreOpenAndSaveUnchanged) {
       }
       for (const auto& [tabela, tryb] :
            {std::pair{"wewnetrzne", 2}, std::pair{"zaplanowanewewnetrzne", 1}}) {
-        const qint64 id = TransferT(QLatin1String(tabela), kKwoty[i],
-                                    QStringLiteral("2026-11-10"), bank, portfel);
+        const qint64 id = TransferT(QLatin1String(tabela), kKwoty[i], QStringLiteral("2026-11-10"),
+                                    bank, portfel);
         // The change is confirmed; an executed one is also over the bank's cover: save anyway.
         m.host.odpowiedzi = {WynikTak, WynikTak};
         auto f = Transfer(tryb, id);

@@ -254,8 +254,9 @@ TEST_F(EdytorTransferu, StatementsAndAtomicRealising) {
 
 // "Realise", Nie to the cover, then OK: still realising, the row is moved, not updated in place.
 TEST_F(EdytorTransferu, AfterNieToTheCoverOkStillRealises) {
-  const qint64 plan = TransferT(QStringLiteral("zaplanowanewewnetrzne"), 500,
-                                QStringLiteral("2026-11-30"), portfel, bank, QStringLiteral("Wpłata"));
+  const qint64 plan =
+      TransferT(QStringLiteral("zaplanowanewewnetrzne"), 500, QStringLiteral("2026-11-30"), portfel,
+                bank, QStringLiteral("Wpłata"));
   m.host.odpowiedzi = {WynikTak, WynikNie};
   auto f = Otworz(1, plan);
   Kontrolka<QPushButton>(f.get(), "cmdRealizuj")->click();
@@ -272,7 +273,7 @@ TEST_F(EdytorTransferu, AfterNieToTheCoverOkStillRealises) {
       Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej20"))));
   EXPECT_EQ(f->result(), QDialog::Accepted);
   EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM zaplanowanewewnetrzne")), 0);
-  EXPECT_EQ(m.Licz(QStringLiteral(
-                "SELECT COUNT(*) FROM wewnetrzne WHERE kwota=500 AND opis='Wpłata  '")),
-            1);
+  EXPECT_EQ(
+      m.Licz(QStringLiteral("SELECT COUNT(*) FROM wewnetrzne WHERE kwota=500 AND opis='Wpłata  '")),
+      1);
 }

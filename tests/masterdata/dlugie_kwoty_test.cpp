@@ -47,8 +47,8 @@ TEST(DlugieKwoty, AccountEditorKeepsOpeningBalancesAndLimitWhole) {
       sesja.pubKonto.id = id;
       frmEdycjaKonta e;
       e.show();
-      for (const auto& [nazwa, kwota] : {std::pair{"txtWinien", winien}, std::pair{"txtMa", ma},
-                                         std::pair{"txtLimit", limit}}) {
+      for (const auto& [nazwa, kwota] :
+           {std::pair{"txtWinien", winien}, std::pair{"txtMa", ma}, std::pair{"txtLimit", limit}}) {
         auto* pole = Pole<QLineEdit>(&e, nazwa);
         EXPECT_EQ(pole->text(), FormatKwotyEdycja(kwota)) << nazwa << " " << separator;
         EXPECT_TRUE(widocznosc::CalyWidoczny(pole)) << nazwa << " " << separator;
@@ -73,13 +73,13 @@ TEST(DlugieKwoty, CategoryLimitDialogKeepsTheLimitWhole) {
   for (const char* separator : {".", ","}) {
     MagazynTestowy m;
     sesja.pubSeparator = QLatin1String(separator);
-    ASSERT_TRUE(pubBaza().Wykonaj(QStringLiteral(
-        "INSERT INTO kategorie (identyfikator,kategoria,nazwa,opis,rodzaj) VALUES "
-        "('a','-','Dom','',2)")));
+    ASSERT_TRUE(pubBaza().Wykonaj(
+        QStringLiteral("INSERT INTO kategorie (identyfikator,kategoria,nazwa,opis,rodzaj) VALUES "
+                       "('a','-','Dom','',2)")));
     for (int i = 0; i < 3; ++i) {
-      ASSERT_TRUE(pubBaza().Wykonaj(
-          QStringLiteral("UPDATE kategorie SET limit=%1 WHERE identyfikator='a'")
-              .arg(QLatin1String(kTeksty[i]))));
+      ASSERT_TRUE(
+          pubBaza().Wykonaj(QStringLiteral("UPDATE kategorie SET limit=%1 WHERE identyfikator='a'")
+                                .arg(QLatin1String(kTeksty[i]))));
       sesja.pubKategoria = {QStringLiteral("a"), QStringLiteral("Dom"), QStringLiteral("-"), 2};
       frmLimitDlaKategorii d;
       d.show();

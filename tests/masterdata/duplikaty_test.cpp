@@ -27,10 +27,10 @@ T* Kontrolka(const QObject* o, const char* nazwa) {
 }
 
 struct Edytor {
-  const char* nazwa;        // the editor's form name
-  const char* poleNazwy;    // its name field
-  const char* ok;           // its OK button
-  const char* tytulPytania; // the key of the duplicate question's title
+  const char* nazwa;         // the editor's form name
+  const char* poleNazwy;     // its name field
+  const char* ok;            // its OK button
+  const char* tytulPytania;  // the key of the duplicate question's title
   const char* tabela;
   const char* kolumna;
   std::function<std::unique_ptr<QDialog>()> otworz;

@@ -64,7 +64,8 @@ void Nazwy() {
                .arg(QLatin1String(k))
                .arg(konto));
   for (const QString& n : {kW, kZ, kM})
-    Zapisz(QStringLiteral("INSERT INTO kontrahent (skrocona,opis) VALUES (%1,'')").arg(SqlTekst(n)));
+    Zapisz(
+        QStringLiteral("INSERT INTO kontrahent (skrocona,opis) VALUES (%1,'')").arg(SqlTekst(n)));
 }
 
 // Every line of the list that carries one of the long names shows it whole.

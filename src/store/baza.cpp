@@ -278,6 +278,10 @@ StanBazy OtworzBazeIZbadaj() {
   if (n < qsizetype(sizeof naglowek))
     return stan(StanBazy::Nieczytelna,
                 QStringLiteral("too short to be a store (%1 bytes)").arg(info.size()));
+  // A store is made of whole pages of 1 KiB (or a multiple of it).
+  if (info.size() % 1024 != 0)
+    return stan(StanBazy::Nieczytelna,
+                QStringLiteral("not made of whole pages (%1 bytes): damaged").arg(info.size()));
   if (std::memcmp(naglowek, "SQLite format 3", 16) == 0)
     return stan(StanBazy::Nieczytelna, QStringLiteral("an unencrypted database, not a store"));
   // Writing needs the file and, for the journal beside it, the folder.

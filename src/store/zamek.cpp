@@ -59,7 +59,9 @@ bool zrobKopie(sqlite3* db, const QByteArray& klucz, const QString& hasloWBazie,
     *blad = QStringLiteral("attach: ") + BezCytatow(QString::fromUtf8(sqlite3_errmsg(db)));
     return false;
   }
-  ok = wykonaj(db, "BEGIN IMMEDIATE", blad) && wykonaj(db, "SELECT sqlcipher_export('nowa')", blad);
+  // A deferred transaction writes to the copy alone, so that it commits as one file, with no
+  // journal spanning both.
+  ok = wykonaj(db, "BEGIN", blad) && wykonaj(db, "SELECT sqlcipher_export('nowa')", blad);
   if (ok) {
     ok = sqlite3_prepare_v2(db, "UPDATE nowa.setup SET haslo=?1", -1, &st, nullptr) == SQLITE_OK;
     if (ok) {

@@ -1,6 +1,7 @@
 #include "app/galeria_gui.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QGridLayout>
 #include <QLabel>
@@ -24,6 +25,7 @@
 #include "setup/start_gui.h"
 #include "store/baza.h"
 #include "store/napis.h"
+#include "store/plik.h"
 #include "store/session.h"
 #include "store/start.h"
 #include "store/tekst.h"
@@ -206,9 +208,13 @@ bool ZapiszGalerie(const QString& folder, QStringList* zapisane, QString* blad) 
       QApplication::processEvents();
       const QString plik = QDir(folder).filePath(
           QStringLiteral("%1-%2.png").arg(wpis.nazwa, QLatin1String(przyrostek)));
-      if (!ObrazOkna(okno.get()).save(plik)) {
+      QByteArray png;
+      QBuffer bufor(&png);
+      bufor.open(QIODevice::WriteOnly);
+      QString powod;
+      if (!ObrazOkna(okno.get()).save(&bufor, "PNG") || !ZapiszPlik(plik, png, &powod)) {
         ok = false;
-        if (blad) *blad = QStringLiteral("cannot write %1").arg(plik);
+        if (blad) *blad = QStringLiteral("cannot write %1: %2").arg(plik, powod);
       } else if (zapisane) {
         *zapisane << plik;
       }

@@ -368,7 +368,7 @@ void frmMain::closeEvent(QCloseEvent* e) {
     zamkniety_ = true;
     zegar_->stop();
     ZapiszNotatnik();
-    ZapiszPrzypomnienia();
+    ZapiszPrzypomnieniaIPowiadom();
     // No screen outlives the main window.
     for (QWidget* w : QApplication::topLevelWidgets())
       if (w != this && w->isVisible()) w->close();

@@ -1,16 +1,17 @@
 #include "setup/frmHaslo.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "store/MsgBoxModule.h"
 #include "setup/haslo.h"
-#include "ui/obrazki_gui.h"
+#include "store/MsgBoxModule.h"
 #include "store/napis.h"
 #include "store/session.h"
+#include "ui/obrazki_gui.h"
 
 frmHaslo::frmHaslo(QWidget* rodzic) : QDialog(rodzic) {
   setObjectName(QStringLiteral("frmHaslo"));
@@ -55,8 +56,16 @@ frmHaslo::frmHaslo(QWidget* rodzic) : QDialog(rodzic) {
 }
 
 void frmHaslo::cmdOK_Click() {
-  if (SprawdzHaslo(txtHaslo_->text(), sesja.pubUstawienia.haslo)) {
+  // The check derives keys on purpose slowly, and the first entry also locks the store.
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  QString bladZamka;
+  const bool wpuszczony = WpuscHaslem(txtHaslo_->text(), &bladZamka);
+  QApplication::restoreOverrideCursor();
+  if (wpuszczony) {
     sesja.pubUstawienia.haslo.clear();
+    if (!bladZamka.isEmpty())
+      MyMsgbox(Napis(QStringLiteral("frmHaslo9")).arg(bladZamka),
+               Napis(QStringLiteral("frmHaslo10")), MsgOK, IkonaOstrzezenie);
     accept();
     return;
   }

@@ -1,69 +1,37 @@
 #include "setup/haslo.h"
 
+#include <openssl/crypto.h>
+#include <openssl/evp.h>
+#include <openssl/rand.h>
+
 #include <QByteArray>
-#include <QCryptographicHash>
-#include <QRandomGenerator>
 #include <QStringList>
-#include <cstring>
+
+#include "store/baza.h"
+#include "store/session.h"
+#include "store/zamek.h"
 
 namespace {
 const QString kZnacznik = QStringLiteral("pbkdf2-sha256");
 constexpr int kIteracje = 60000;
 constexpr int kDlugoscSoli = 16;
 constexpr int kDlugoscKlucza = 32;
-constexpr int kBlok = 64;  // SHA-256 block size
-
-// HMAC-SHA256 with the key pads computed once, since PBKDF2 calls it tens of thousands of times;
-// results go through fixed buffers so that the loop allocates nothing.
-class Hmac {
- public:
-  explicit Hmac(QByteArray klucz) {
-    if (klucz.size() > kBlok) klucz = QCryptographicHash::hash(klucz, QCryptographicHash::Sha256);
-    klucz.resize(kBlok, '\0');
-    wewn_ = klucz;
-    zewn_ = klucz;
-    for (int i = 0; i < kBlok; ++i) {
-      wewn_[i] = char(wewn_[i] ^ 0x36);
-      zewn_[i] = char(zewn_[i] ^ 0x5c);
-    }
-  }
-  // wynik gets the 32 bytes of the code of dane.
-  void operator()(QByteArrayView dane, char* wynik) {
-    char wewnetrzny[kDlugoscKlucza];
-    h_.reset();
-    h_.addData(wewn_);
-    h_.addData(dane);
-    std::memcpy(wewnetrzny, h_.resultView().data(), kDlugoscKlucza);
-    h_.reset();
-    h_.addData(zewn_);
-    h_.addData(QByteArrayView(wewnetrzny, kDlugoscKlucza));
-    std::memcpy(wynik, h_.resultView().data(), kDlugoscKlucza);
-  }
-
- private:
-  QByteArray wewn_, zewn_;
-  QCryptographicHash h_{QCryptographicHash::Sha256};
-};
 
 // PBKDF2 (RFC 8018) with HMAC-SHA256, for a key of one hash length.
 QByteArray pbkdf2(const QByteArray& haslo, const QByteArray& sol, int iteracje) {
-  Hmac hmac(haslo);
-  char u[kDlugoscKlucza];
-  hmac(sol + QByteArray("\x00\x00\x00\x01", 4), u);
-  QByteArray wynik(u, kDlugoscKlucza);
-  for (int i = 1; i < iteracje; ++i) {
-    hmac(QByteArrayView(u, kDlugoscKlucza), u);
-    for (int j = 0; j < kDlugoscKlucza; ++j) wynik[j] = char(wynik[j] ^ u[j]);
-  }
+  QByteArray wynik(kDlugoscKlucza, '\0');
+  if (PKCS5_PBKDF2_HMAC(haslo.constData(), int(haslo.size()),
+                        reinterpret_cast<const unsigned char*>(sol.constData()), int(sol.size()),
+                        iteracje, EVP_sha256(), kDlugoscKlucza,
+                        reinterpret_cast<unsigned char*>(wynik.data())) != 1)
+    return {};
   return wynik;
 }
 
 // Comparison whose time doesn't depend on where the first difference lies.
 bool rowne(const QByteArray& a, const QByteArray& b) {
-  if (a.size() != b.size()) return false;
-  unsigned char roznica = 0;
-  for (qsizetype i = 0; i < a.size(); ++i) roznica |= static_cast<unsigned char>(a[i] ^ b[i]);
-  return roznica == 0;
+  return a.size() == b.size() && !a.isEmpty() &&
+         CRYPTO_memcmp(a.constData(), b.constData(), size_t(a.size())) == 0;
 }
 
 struct Rozbior {
@@ -90,13 +58,33 @@ Rozbior rozbierz(const QString& zapisane) {
   r.ok = true;
   return r;
 }
+
+QString hasloZBazy() {
+  return pubBaza().Czytaj(QStringLiteral("SELECT haslo FROM setup")).Tekst(QStringLiteral("haslo"));
+}
+
+// Writes the hash over the value in setup.haslo so that no trace of a plain password stays in
+// the file's free space.
+bool zapiszHash(const QString& hash) {
+  pubBaza().Wykonaj(QStringLiteral("PRAGMA secure_delete=ON"));
+  const bool ok =
+      bool(pubBaza().Wykonaj(QStringLiteral("UPDATE setup SET haslo=") + SqlTekst(hash)));
+  pubBaza().Wykonaj(QStringLiteral("PRAGMA secure_delete=OFF"));
+  return ok;
+}
+
+// Locks the store with the password; the hash of it lands in the locked file.
+bool zablokuj(const QString& haslo, const QString& hash, QString* blad) {
+  return PrzekluczBaze(haslo.toUtf8(), hash, blad);
+}
 }  // namespace
 
 QString HashHasla(const QString& haslo) {
   if (haslo.isEmpty()) return {};
   QByteArray sol(kDlugoscSoli, '\0');
-  QRandomGenerator::system()->fillRange(reinterpret_cast<quint32*>(sol.data()), kDlugoscSoli / 4);
+  if (RAND_bytes(reinterpret_cast<unsigned char*>(sol.data()), kDlugoscSoli) != 1) return {};
   const QByteArray klucz = pbkdf2(haslo.toUtf8(), sol, kIteracje);
+  if (klucz.isEmpty()) return {};
   return QStringList{kZnacznik, QString::number(kIteracje), QString::fromLatin1(sol.toBase64()),
                      QString::fromLatin1(klucz.toBase64())}
       .join(QLatin1Char('$'));
@@ -106,6 +94,46 @@ bool CzyHashHasla(const QString& zapisane) { return rozbierz(zapisane).ok; }
 
 bool SprawdzHaslo(const QString& wpisane, const QString& zapisane) {
   const Rozbior r = rozbierz(zapisane);
-  if (!r.ok) return wpisane == zapisane;
+  if (!r.ok) return !zapisane.isEmpty() && wpisane == zapisane;
   return rowne(pbkdf2(wpisane.toUtf8(), r.sol, r.iteracje), r.klucz);
+}
+
+bool UstawHasloBazy(const QString& nowe, QString* blad) {
+  if (nowe.isEmpty()) return PrzekluczBaze({}, QString(), blad);
+  const QString hash = HashHasla(nowe);
+  if (hash.isEmpty()) {
+    if (blad) *blad = QStringLiteral("no random salt");
+    ZapiszLog(QStringLiteral("password not set: no random salt"));
+    return false;
+  }
+  return zablokuj(nowe, hash, blad);
+}
+
+bool WpuscHaslem(const QString& wpisane, QString* bladZamka) {
+  if (wpisane.isEmpty()) return false;
+  if (!pubBaza().Otwarta()) {
+    // A locked store: the password is its key.
+    UstawKluczSesji(wpisane.toUtf8());
+    QString blad;
+    if (!pubBaza().Otworz(PlikBazy(), &blad, KluczSesji())) {
+      UstawKluczSesji({});
+      ZapiszLog(QStringLiteral("password gate: the store did not open with the password typed"));
+      return false;
+    }
+    // The hash inside follows the key, whatever an older version left there.
+    if (!SprawdzHaslo(wpisane, hasloZBazy()) || !CzyHashHasla(hasloZBazy()))
+      zapiszHash(HashHasla(wpisane));
+    return true;
+  }
+  const QString zapisane = sesja.pubUstawienia.haslo;
+  if (!SprawdzHaslo(wpisane, zapisane)) return false;
+  QString hash = zapisane;
+  if (!CzyHashHasla(zapisane)) {
+    // A plain password of an older store is let in this once and never kept again.
+    hash = HashHasla(wpisane);
+    if (!zapiszHash(hash)) ZapiszLog(QStringLiteral("password gate: the hash was not stored"));
+  }
+  QString blad;
+  if (!zablokuj(wpisane, hash, &blad) && bladZamka) *bladZamka = blad;
+  return true;
 }

@@ -1,81 +1,83 @@
 #include "setup/start_gui.h"
 
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QLocalServer>
-#include <QLocalSocket>
 #include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
-#include <memory>
 
 #include "mainwindow/frmMain.h"
 #include "mainwindow/polecenia_gui.h"
-#include "store/MsgBoxModule.h"
 #include "setup/frmHaslo.h"
 #include "setup/frmStart.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/dzis.h"
 #include "store/napis.h"
 #include "store/przypomnienia.h"
 #include "store/session.h"
 #include "store/start.h"
+#include "store/zamek.h"
 
 namespace {
-const QByteArray kProsbaOPokazanie = QByteArrayLiteral("pokaz\n");
-
-std::unique_ptr<QLocalServer>& serwer() {
-  static std::unique_ptr<QLocalServer> s;
-  return s;
-}
-
-// A later copy asked for the window: the main window if it stands, else whatever is in front
-// (the password gate, the splash).
-void pokazOkno() {
-  if (frmMain* f = frmMain::Instancja()) {
-    f->Przywroc();
-    return;
+// The store can't be used: the plain message of the reason (the store's own texts can't be
+// read, so the program's copy of them serves).
+void bazaNiedostepna(StanBazy stan, const SrodowiskoStartu& s) {
+  const QString plik = QDir::toNativeSeparators(PlikBazy());
+  const QString folder = QDir::toNativeSeparators(FolderDanych());
+  QString tekst, tytul;
+  switch (stan) {
+    case StanBazy::TylkoDoOdczytu:
+      tekst = Napis(QStringLiteral("Module156")).arg(plik, folder);
+      tytul = Napis(QStringLiteral("Module157"));
+      break;
+    case StanBazy::Nieczytelna:
+      tekst = Napis(QStringLiteral("Module158"))
+                  .arg(plik, QDir::toNativeSeparators(
+                                 QDir(FolderDanych()).filePath(QStringLiteral("zorvik.log"))));
+      tytul = Napis(QStringLiteral("Module159"));
+      break;
+    default:
+      tekst = Napis(QStringLiteral("Module138")).arg(folder);
+      tytul = Napis(QStringLiteral("Module139"));
   }
-  QWidget* w = QApplication::activeModalWidget();
-  if (!w) w = OknoStartowe();
-  if (w) {
-    w->raise();
-    w->activateWindow();
-  }
-}
-
-void przyjmijPolaczenie() {
-  while (QLocalSocket* gniazdo = serwer()->nextPendingConnection()) {
-    QObject::connect(gniazdo, &QLocalSocket::disconnected, gniazdo, &QObject::deleteLater);
-    auto czytaj = [gniazdo] {
-      if (gniazdo->bytesAvailable() && gniazdo->readAll().contains(kProsbaOPokazanie.trimmed()))
-        pokazOkno();
-    };
-    QObject::connect(gniazdo, &QLocalSocket::readyRead, gniazdo, czytaj);
-    czytaj();
-  }
-}
-
-// The store is missing or won't open: no language table, so the one text written here.
-void brakBazy(const SrodowiskoStartu& s) {
-  QString tekst = Napis(QStringLiteral("Module138"));
-  QString tytul = Napis(QStringLiteral("Module139"));
-  if (tekst.isEmpty())
-    tekst =
-        (sesja.pubJezyk == 1 ? QStringLiteral("Nie można otworzyć pliku danych programu:\n%1\n\n"
-                                              "Program zostanie zamknięty.")
-                             : QStringLiteral("The program's data file cannot be opened:\n%1\n\n"
-                                              "The program will close."))
-            .arg(QDir::toNativeSeparators(PlikBazy()));
-  if (tytul.isEmpty()) tytul = QStringLiteral("Zorvik");
   tekst.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   if (s.komunikatBrakuBazy)
     s.komunikatBrakuBazy(tekst, tytul);
   else
     QMessageBox::critical(nullptr, tytul, tekst);
+}
+
+// The reminder run: the file afresh and the companion, no window. A store that may only be read
+// still serves; a locked one can't be read without its password, so the file of the last run
+// stays for the companion.
+Start przypomnienie(StanBazy stan) {
+  switch (stan) {
+    case StanBazy::Otwarta:
+      break;
+    case StanBazy::TylkoDoOdczytu:
+      if (OtworzBazeDoOdczytu()) {
+        AktualizujBaze();
+        break;
+      }
+      return {WynikStartu::Koniec, 1};
+    case StanBazy::Zablokowana:
+      ZapiszLog(QStringLiteral(
+          "reminder run: the store is locked by a password; the reminder file of the last run "
+          "stays"));
+      UruchomPrzypominacz();
+      return {WynikStartu::Koniec, 0};
+    default:
+      // Started unattended: it ends without a word (the log has the reason).
+      return {WynikStartu::Koniec, 1};
+  }
+  sesja.pubSeparator = QLocale::system().decimalPoint();
+  ZapiszPrzypomnienia();
+  UruchomPrzypominacz();
+  return {WynikStartu::Koniec, 0};
 }
 
 void ustawKoloryDomyslne(Ustawienia& u) {
@@ -140,53 +142,6 @@ ParametryStartu CzytajWierszPolecen(const QStringList& argumenty) {
 
 int JezykSystemu() { return QLocale::system().language() == QLocale::Polish ? 1 : 2; }
 
-QString NazwaGniazda() {
-  // One copy per user and data folder: two users, or two data folders, never meet.
-  const QString folder = QFileInfo(FolderDanych()).absoluteFilePath();
-  const QByteArray klucz = (QDir::homePath() + QLatin1Char('|') + folder).toUtf8();
-  return QStringLiteral("zorvik-") +
-         QString::fromLatin1(
-             QCryptographicHash::hash(klucz, QCryptographicHash::Sha1).toHex().left(20));
-}
-
-bool CzyJuzUruchomiony(bool& blad) {
-  blad = false;
-  QLocalSocket gniazdo;
-  gniazdo.connectToServer(NazwaGniazda());
-  if (!gniazdo.waitForConnected(1000)) {
-    // No listener, or a stale one left by a crash: no copy is running.
-    const auto e = gniazdo.error();
-    blad = e != QLocalSocket::ServerNotFoundError && e != QLocalSocket::ConnectionRefusedError;
-    return false;
-  }
-  gniazdo.write(kProsbaOPokazanie);
-  if (!gniazdo.waitForBytesWritten(1000)) blad = true;
-  gniazdo.disconnectFromServer();
-  return true;
-}
-
-bool NasluchujKopii() {
-  ZakonczNasluch();
-  auto s = std::make_unique<QLocalServer>();
-  s->setSocketOptions(QLocalServer::UserAccessOption);
-  if (!s->listen(NazwaGniazda())) {
-    // A crashed copy leaves its socket behind; nobody answered on it, so it can go.
-    QLocalServer::removeServer(NazwaGniazda());
-    if (!s->listen(NazwaGniazda())) {
-      ZapiszLog(QStringLiteral("single-instance listener failed: %1").arg(s->errorString()));
-      return false;
-    }
-  }
-  QObject::connect(s.get(), &QLocalServer::newConnection, przyjmijPolaczenie);
-  serwer() = std::move(s);
-  return true;
-}
-
-void ZakonczNasluch() {
-  if (serwer()) serwer()->close();
-  serwer().reset();
-}
-
 void PierwszeUruchomienie() {
   sesja.pubPierwszyStart = CzyPustaBaza();
   // The first-run wizard comes with its own screens; until then an empty store starts with the
@@ -209,41 +164,51 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
   sesja.pubJezyk = p.jezyk ? p.jezyk : JezykSystemu();
   if (!p.folderDanych.isEmpty()) UstawFolderDanych(p.folderDanych);
 
-  // Bring the store up to date; a missing store is told further on.
-  const bool jestBaza = QFileInfo::exists(PlikBazy()) && AktualizujBaze();
+  // Open the store and bring it up to date; a store that can't be used is told further on.
+  const StanBazy stan = OtworzBazeIZbadaj();
+  if (stan == StanBazy::Otwarta) {
+    UsunResztkiPrzekluczenia();
+    AktualizujBaze();
+  }
 
   bool blad = false;
   if (CzyJuzUruchomiony(blad) && !blad) return {WynikStartu::Koniec, 0};
 
-  if (!jestBaza) {
-    // The reminder run starts unattended: it ends without a word.
-    if (!p.przypomnienie) brakBazy(srodowisko);
+  if (p.przypomnienie) return przypomnienie(stan);
+  if (stan != StanBazy::Otwarta && stan != StanBazy::Zablokowana) {
+    bazaNiedostepna(stan, srodowisko);
     return {WynikStartu::Koniec, 1};
   }
 
   sesja.pubSeparator = QLocale::system().decimalPoint();
 
-  if (p.przypomnienie) {
-    QString bladPliku;
-    if (!ZapiszPrzypomnienia(&bladPliku)) ZapiszLog(QStringLiteral("reminder file: ") + bladPliku);
-    UruchomPrzypominacz();
-    return {WynikStartu::Koniec, 0};
-  }
-
   NasluchujKopii();
   PokazStart();
 
+  auto koniec = [] {
+    UkryjStart();
+    ZakonczNasluch();
+    return Start{WynikStartu::Koniec, 0};
+  };
+  // A store locked by a password opens only with it: the gate comes before anything is read.
+  if (stan == StanBazy::Zablokowana) {
+    frmHaslo brama;
+    brama.exec();
+    if (!pubBaza().Otwarta()) return koniec();
+    UsunResztkiPrzekluczenia();
+    AktualizujBaze();
+  }
+
   PrzygotujSesje();
 
-  if (!sesja.pubUstawienia.haslo.isEmpty()) {
+  if (stan == StanBazy::Zablokowana) {
+    // Passed already: the store opened with the password.
+    sesja.pubUstawienia.haslo.clear();
+  } else if (!sesja.pubUstawienia.haslo.isEmpty()) {
     frmHaslo brama;
     brama.exec();
     // Emptied only by the right password: Cancel and three failures end the run here.
-    if (!sesja.pubUstawienia.haslo.isEmpty()) {
-      UkryjStart();
-      ZakonczNasluch();
-      return {WynikStartu::Koniec, 0};
-    }
+    if (!sesja.pubUstawienia.haslo.isEmpty()) return koniec();
   }
 
   int szerokosc = srodowisko.szerokoscEkranu;

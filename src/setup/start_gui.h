@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <functional>
 
+#include "setup/jednakopia_gui.h"
+
 struct ParametryStartu {
   int jezyk = 0;               // 1 Polish, 2 English; 0: by the system's language
   QString folderDanych;        // "" : dane/ beside the program
@@ -22,8 +24,8 @@ int JezykSystemu();
 
 // What the start-up needs from the world, replaceable in tests.
 struct SrodowiskoStartu {
-  // The plain message of a missing store (the language table is in the store, so the program's
-  // own dialog can't be used). Null: a system message box.
+  // The plain message of a store that can't be used (missing, read-only, unreadable). Null: a
+  // system message box.
   std::function<void(const QString& tekst, const QString& tytul)> komunikatBrakuBazy;
   int szerokoscEkranu = 0;  // in pixels; 0: the primary screen's
 };
@@ -41,15 +43,6 @@ struct Start {
 // The start-up steps in their order. Installs nothing of its own but the single-instance
 // listener; the caller installs the message host first.
 Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko = {});
-
-// True when a copy of the program with the same data folder is running; it is then asked to
-// bring its window forward. blad is set when the check itself could not be made.
-bool CzyJuzUruchomiony(bool& blad);
-// Starts listening for later copies (a stale listener left by a crash is replaced).
-bool NasluchujKopii();
-void ZakonczNasluch();
-// The name of the local socket for this user and data folder.
-QString NazwaGniazda();
 
 // The session at the start of a run: filter defaults, first-run steps, the setup row, today's
 // names.

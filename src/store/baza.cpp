@@ -1,18 +1,22 @@
 #include "store/baza.h"
 
+#include <fcntl.h>
 #include <sqlcipher/sqlite3.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QTextStream>
+#include <QFileInfo>
+#include <cerrno>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 #include "store/jet.h"
-#include "store/zmiany.h"
 #include "store/kwota.h"
+#include "store/zmiany.h"
 
 const char* const KluczBazy = "xqz";
 
@@ -40,22 +44,29 @@ QString Rekordy::Tekst(const QString& nazwa) const {
 
 Baza::~Baza() { Zamknij(); }
 
-bool Baza::Otworz(const QString& plik, QString* blad) {
+bool Baza::Otworz(const QString& plik, QString* blad, const QByteArray& klucz,
+                  bool tylkoDoOdczytu) {
   Zamknij();
+  kodBledu_ = 0;
   auto fail = [&](const QString& tekst) {
-    if (blad) *blad = tekst;
-    ZapiszLog(QStringLiteral("open %1: %2").arg(plik, tekst));
+    // A caller that asks for the reason reports it itself.
+    if (blad)
+      *blad = tekst;
+    else
+      ZapiszLog(QStringLiteral("open %1: %2").arg(plik, BezCytatow(tekst)));
     if (db_) sqlite3_close(db_);
     db_ = nullptr;
     return false;
   };
   if (!QFile::exists(plik)) return fail(QStringLiteral("file not found"));
-  if (sqlite3_open_v2(plik.toUtf8().constData(), &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
+  const int tryb = tylkoDoOdczytu ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+  if ((kodBledu_ = sqlite3_open_v2(plik.toUtf8().constData(), &db_, tryb, nullptr)) != SQLITE_OK)
     return fail(QString::fromUtf8(sqlite3_errmsg(db_)));
-  sqlite3_key(db_, KluczBazy, int(strlen(KluczBazy)));
+  const QByteArray k = klucz.isEmpty() ? QByteArray(KluczBazy) : klucz;
+  sqlite3_key(db_, k.constData(), int(k.size()));
   // A wrong key or a file that is not a store shows at the first read.
-  if (sqlite3_exec(db_, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr) !=
-      SQLITE_OK)
+  if ((kodBledu_ = sqlite3_exec(db_, "SELECT count(*) FROM sqlite_master", nullptr, nullptr,
+                                nullptr)) != SQLITE_OK)
     return fail(QString::fromUtf8(sqlite3_errmsg(db_)));
   sqlite3_exec(db_,
                "PRAGMA foreign_keys=OFF; PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; "
@@ -90,14 +101,15 @@ Rekordy Baza::Czytaj(const QString& jetSql) {
   Rekordy rs;
   if (!db_) {
     rs.blad_ = QStringLiteral("store not open");
-    ZapiszLog(QStringLiteral("read: %1 | %2").arg(rs.blad_, jetSql));
+    ZapiszLog(QStringLiteral("read failed: %1 | %2").arg(rs.blad_, KsztaltZapytania(jetSql)));
     return rs;
   }
   const QByteArray sql = TlumaczJet(jetSql).toUtf8();
   sqlite3_stmt* st = nullptr;
   if (sqlite3_prepare_v2(db_, sql.constData(), int(sql.size()), &st, nullptr) != SQLITE_OK) {
     rs.blad_ = QString::fromUtf8(sqlite3_errmsg(db_));
-    ZapiszLog(QStringLiteral("read: %1 | %2 | %3").arg(rs.blad_, jetSql, QString::fromUtf8(sql)));
+    ZapiszLog(
+        QStringLiteral("read failed: %1 | %2").arg(BezCytatow(rs.blad_), KsztaltZapytania(jetSql)));
     return rs;
   }
   const int n = sqlite3_column_count(st);
@@ -112,7 +124,8 @@ Rekordy Baza::Czytaj(const QString& jetSql) {
   if (kod != SQLITE_DONE) {
     rs.blad_ = QString::fromUtf8(sqlite3_errmsg(db_));
     rs.wiersze_.clear();
-    ZapiszLog(QStringLiteral("read: %1 | %2").arg(rs.blad_, jetSql));
+    ZapiszLog(
+        QStringLiteral("read failed: %1 | %2").arg(BezCytatow(rs.blad_), KsztaltZapytania(jetSql)));
   }
   sqlite3_finalize(st);
   return rs;
@@ -122,7 +135,7 @@ WynikZapisu Baza::Wykonaj(const QString& jetSql) {
   WynikZapisu w;
   if (!db_) {
     w.blad = QStringLiteral("store not open");
-    ZapiszLog(QStringLiteral("write: %1 | %2").arg(w.blad, jetSql));
+    ZapiszLog(QStringLiteral("write failed: %1 | %2").arg(w.blad, KsztaltZapytania(jetSql)));
     return w;
   }
   const QByteArray sql = TlumaczJet(jetSql).toUtf8();
@@ -145,7 +158,8 @@ WynikZapisu Baza::Wykonaj(const QString& jetSql) {
     }
   } else {
     w.blad = QString::fromUtf8(sqlite3_errmsg(db_));
-    ZapiszLog(QStringLiteral("write: %1 | %2 | %3").arg(w.blad, jetSql, QString::fromUtf8(sql)));
+    ZapiszLog(
+        QStringLiteral("write failed: %1 | %2").arg(BezCytatow(w.blad), KsztaltZapytania(jetSql)));
   }
   sqlite3_finalize(st);
   return w;
@@ -161,7 +175,8 @@ bool Baza::Transakcja(const std::function<bool()>& praca) {
     return ok;
   }
   if (sqlite3_exec(db_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK) {
-    ZapiszLog(QStringLiteral("begin: %1").arg(QString::fromUtf8(sqlite3_errmsg(db_))));
+    ZapiszLog(
+        QStringLiteral("begin failed: %1").arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db_)))));
     return false;
   }
   glebokoscTransakcji_ = 1;
@@ -178,7 +193,9 @@ bool Baza::Transakcja(const std::function<bool()>& praca) {
     return true;
   }
   zmienioneTabele_ = 0;
-  if (ok) ZapiszLog(QStringLiteral("commit: %1").arg(QString::fromUtf8(sqlite3_errmsg(db_))));
+  if (ok)
+    ZapiszLog(QStringLiteral("commit failed: %1")
+                  .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db_)))));
   sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
   return false;
 }
@@ -196,6 +213,14 @@ QString& folderDanych() {
   static QString f;
   return f;
 }
+QByteArray& kluczSesji() {
+  static QByteArray k;
+  return k;
+}
+
+bool zapisywalny(const QString& sciezka) {
+  return ::faccessat(AT_FDCWD, QFile::encodeName(sciezka).constData(), W_OK, AT_EACCESS) == 0;
+}
 }  // namespace
 
 QString FolderDanych() {
@@ -208,16 +233,75 @@ QString FolderDanych() {
 }
 
 void UstawFolderDanych(const QString& folder) {
-  if (folderDanych() != folder) ZamknijBaze();
+  if (folderDanych() != folder) {
+    ZamknijBaze();
+    // Another store: its own key is learnt at its gate.
+    kluczSesji().clear();
+  }
   folderDanych() = folder;
 }
+
+void UstawKluczSesji(const QByteArray& klucz) {
+  if (kluczSesji() != klucz) ZamknijBaze();
+  kluczSesji() = klucz;
+}
+
+QByteArray KluczSesji() { return kluczSesji(); }
 
 QString PlikBazy() { return QDir(FolderDanych()).filePath(QStringLiteral("money.fns")); }
 
 bool OtworzBaze() {
   Baza& b = baza();
   if (b.Otwarta() && b.Plik() == PlikBazy()) return true;
-  return b.Otworz(PlikBazy());
+  return b.Otworz(PlikBazy(), nullptr, kluczSesji());
+}
+
+bool OtworzBazeDoOdczytu() { return baza().Otworz(PlikBazy(), nullptr, kluczSesji(), true); }
+
+StanBazy OtworzBazeIZbadaj() {
+  const QString plik = PlikBazy();
+  auto stan = [&](StanBazy s, const QString& powod) {
+    ZapiszLog(QStringLiteral("store %1: %2").arg(plik, powod));
+    return s;
+  };
+  const QFileInfo info(plik);
+  if (!info.exists()) return stan(StanBazy::Brak, QStringLiteral("no such file"));
+  if (baza().Otwarta() && baza().Plik() == plik) return StanBazy::Otwarta;
+  const int fd = ::open(QFile::encodeName(plik).constData(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0)
+    return stan(StanBazy::Nieczytelna,
+                QStringLiteral("cannot be read: ") + QString::fromLocal8Bit(std::strerror(errno)));
+  char naglowek[16] = {};
+  const ssize_t n = ::read(fd, naglowek, sizeof naglowek);
+  ::close(fd);
+  // A store is encrypted from its first byte; a plain database or a stub is not one of ours.
+  if (n < qsizetype(sizeof naglowek))
+    return stan(StanBazy::Nieczytelna,
+                QStringLiteral("too short to be a store (%1 bytes)").arg(info.size()));
+  // A store is made of whole pages of 1 KiB (or a multiple of it).
+  if (info.size() % 1024 != 0)
+    return stan(StanBazy::Nieczytelna,
+                QStringLiteral("not made of whole pages (%1 bytes): damaged").arg(info.size()));
+  if (std::memcmp(naglowek, "SQLite format 3", 16) == 0)
+    return stan(StanBazy::Nieczytelna, QStringLiteral("an unencrypted database, not a store"));
+  // Writing needs the file and, for the journal beside it, the folder.
+  if (!zapisywalny(plik))
+    return stan(StanBazy::TylkoDoOdczytu,
+                QStringLiteral("read-only: the file may not be written (%1)")
+                    .arg(QString::fromLocal8Bit(std::strerror(errno))));
+  if (!zapisywalny(info.absolutePath()))
+    return stan(StanBazy::TylkoDoOdczytu,
+                QStringLiteral("read-only: its folder may not be written (%1)")
+                    .arg(QString::fromLocal8Bit(std::strerror(errno))));
+  QString blad;
+  if (baza().Otworz(plik, &blad, kluczSesji())) return StanBazy::Otwarta;
+  if (baza().KodBledu() == SQLITE_NOTADB)
+    return stan(StanBazy::Zablokowana,
+                kluczSesji().isEmpty()
+                    ? QStringLiteral(
+                          "does not open with the program's key: locked by a password, or damaged")
+                    : QStringLiteral("does not open with the key given"));
+  return stan(StanBazy::Nieczytelna, BezCytatow(blad));
 }
 
 Baza& pubBaza() { return baza(); }
@@ -244,10 +328,3 @@ qint64 PoliczIle(const QString& jetSql) {
 }
 
 QString Oczysc(const QVariant& wartosc) { return wartosc.toString().trimmed(); }
-
-void ZapiszLog(const QString& wpis) {
-  QFile f(QDir(FolderDanych()).filePath(QStringLiteral("zorvik.log")));
-  if (!f.open(QIODevice::Append | QIODevice::Text)) return;
-  QTextStream out(&f);
-  out << QDateTime::currentDateTime().toString(Qt::ISODate) << ' ' << wpis << '\n';
-}

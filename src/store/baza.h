@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+#include "store/dziennik.h"
+
 struct sqlite3;
 
 // A read result held in memory: walked with Eof/MoveNext, fields read by name.
@@ -56,11 +58,15 @@ class Baza {
   Baza(const Baza&) = delete;
   Baza& operator=(const Baza&) = delete;
 
-  // Opens (or reopens) the file keyed with the program's key. False with the reason on failure.
-  bool Otworz(const QString& plik, QString* blad = nullptr);
+  // Opens (or reopens) the file with the key (the program's own when empty), for reading only
+  // when asked. False on failure, with the reason in blad when given (else in the log);
+  // KodBledu() then tells the store's error code.
+  bool Otworz(const QString& plik, QString* blad = nullptr, const QByteArray& klucz = {},
+              bool tylkoDoOdczytu = false);
   void Zamknij();
   bool Otwarta() const { return db_ != nullptr; }
   const QString& Plik() const { return plik_; }
+  int KodBledu() const { return kodBledu_; }
 
   // A Jet-dialect read. A failed read gives an empty result carrying the error, and is logged.
   Rekordy Czytaj(const QString& jetSql);
@@ -76,12 +82,32 @@ class Baza {
  private:
   sqlite3* db_ = nullptr;
   QString plik_;
+  int kodBledu_ = 0;
   int glebokoscTransakcji_ = 0;
   unsigned zmienioneTabele_ = 0;  // announced at the commit
 };
 
-// The program's store: <data folder>/money.fns, opened once; cheap on every later call.
+// The program's store: <data folder>/money.fns, opened once with the key of the session;
+// cheap on every later call.
 bool OtworzBaze();
+// The key the program's store opens with: the program's own until the user's password locks the
+// store, then the password as typed at the gate. Empty: the program's own.
+void UstawKluczSesji(const QByteArray& klucz);
+QByteArray KluczSesji();
+
+// What stands between the program and its store.
+enum class StanBazy {
+  Otwarta,         // open for reading and writing
+  Brak,            // no file
+  TylkoDoOdczytu,  // the file or its folder may not be written by this user
+  Zablokowana,     // does not open with the key of the session: locked by a password
+  Nieczytelna,     // may not be read, empty, or not a store of this program
+};
+// Opens the program's store, or tells why it can't; every state but Otwarta is logged with its
+// reason. A read-only store is left closed (see OtworzBazeDoOdczytu).
+StanBazy OtworzBazeIZbadaj();
+// Opens the program's store for reading only (a store the user may not write to).
+bool OtworzBazeDoOdczytu();
 Baza& pubBaza();
 // Closes the program's store (tests, the end of the process).
 void ZamknijBaze();
@@ -100,8 +126,5 @@ qint64 PoliczIle(const QString& jetSql);
 // Value as text with leading and trailing blanks removed.
 QString Oczysc(const QVariant& wartosc);
 
-// The error log, dane/zorvik.log.
-void ZapiszLog(const QString& wpis);
-
-// The fixed key of the program's store.
+// The fixed key of the program's store: a store without a password opens with it.
 extern const char* const KluczBazy;

@@ -10,10 +10,18 @@
 // CR LF line ends, Windows-1250 text. False with the reason when the store or the file fails;
 // the old file then stays as it was.
 bool ZapiszPrzypomnienia(QString* blad = nullptr);
+// The same at the end of a run with a window: a failure is logged and also told to the user.
+bool ZapiszPrzypomnieniaIPowiadom();
+
 
 // Starts the companion (timer, or timer.exe, in the data folder) on its own, from the program's
 // folder. False when it is not there or would not start.
 bool UruchomPrzypominacz();
 
-// Text in Windows-1250; characters the code page lacks become '?'.
+// The reminder file's path: <data folder>/cont.rmd.
+QString SciezkaPrzypomnien();
+
+// Text in Windows-1250; characters the code page lacks become '?'. Empty when Qt was built
+// without the code page (KodowanieWindows1250() tells).
 QByteArray DoWindows1250(const QString& tekst);
+bool KodowanieWindows1250();

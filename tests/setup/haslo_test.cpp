@@ -101,7 +101,8 @@ TEST(frmHaslo, ThreeWrongTriesCloseTheGate) {
 }
 
 // The right password empties the one in memory (the gate is passed) but not the store; Cancel
-// leaves it set; a plain password of an older store still opens.
+// leaves it set. A plain password of an older store opens once: at that moment it is replaced
+// by its salted hash and the store is locked with it, so that the plain text counts no more.
 TEST(frmHaslo, RightPasswordCancelAndPlainStore) {
   MagazynTestowy m;
   WczytajSetup();
@@ -123,7 +124,10 @@ TEST(frmHaslo, RightPasswordCancelAndPlainStore) {
     EXPECT_EQ(f.result(), QDialog::Rejected);
     EXPECT_EQ(sesja.pubUstawienia.haslo, hash);
   }
-  pubBaza().Wykonaj(QStringLiteral("UPDATE setup SET haslo='Abc'"));
+
+  MagazynTestowy stary;
+  WczytajSetup();
+  ASSERT_TRUE(pubBaza().Wykonaj(QStringLiteral("UPDATE setup SET haslo='Abc'")));
   WczytajSetup();
   {
     frmHaslo f;
@@ -134,5 +138,14 @@ TEST(frmHaslo, RightPasswordCancelAndPlainStore) {
     EXPECT_EQ(f.result(), QDialog::Accepted);
     EXPECT_TRUE(sesja.pubUstawienia.haslo.isEmpty());
   }
-  EXPECT_EQ(hasloWBazie(), QStringLiteral("Abc"));
+  const QString teraz = hasloWBazie();
+  EXPECT_TRUE(CzyHashHasla(teraz)) << teraz.toStdString();
+  EXPECT_TRUE(SprawdzHaslo(QStringLiteral("Abc"), teraz));
+  EXPECT_FALSE(SprawdzHaslo(teraz, teraz)) << "the stored text itself is no password";
+  Baza b;
+  QString blad;
+  EXPECT_FALSE(b.Otworz(stary.Plik(), &blad)) << "no longer under the program's key";
+  EXPECT_TRUE(b.Otworz(stary.Plik(), &blad, QByteArrayLiteral("Abc"))) << blad.toStdString();
+  ASSERT_EQ(stary.host.pokazane.size(), 1u);
+  EXPECT_EQ(stary.host.pokazane[0].tekst, Napis(QStringLiteral("frmHaslo4")));
 }

@@ -24,8 +24,9 @@ CREATE TABLE transakcje (
   konto INTEGER,
   kontrahent INTEGER DEFAULT 0
 );
--- Covering the period sums: a range of days is read from the index alone.
-CREATE INDEX transakcje_data ON transakcje (data, konto, przychod, wydatek);
+-- Covering the period sums: a range of days is read from the index alone. Within a day the rows
+-- stand by id, so that the newest entries are read from its end without sorting anything.
+CREATE INDEX transakcje_data ON transakcje (data, id, konto, przychod, wydatek);
 CREATE INDEX transakcje_konto ON transakcje (konto, data);
 CREATE INDEX transakcje_kategoria ON transakcje (rodzaj, kategoria, data);
 CREATE INDEX transakcje_kontrahent ON transakcje (kontrahent, data);
@@ -41,7 +42,8 @@ CREATE TABLE zaplanowane (
   konto INTEGER,
   kontrahent INTEGER DEFAULT 0
 );
-CREATE INDEX zaplanowane_data ON zaplanowane (data);
+-- The oldest plans first and, within a day, the newest first: the dashboard's order.
+CREATE INDEX zaplanowane_data ON zaplanowane (data, id DESC);
 CREATE INDEX zaplanowane_konto ON zaplanowane (konto, data);
 CREATE INDEX zaplanowane_kategoria ON zaplanowane (rodzaj, kategoria, data);
 CREATE INDEX zaplanowane_kontrahent ON zaplanowane (kontrahent, data);
@@ -54,9 +56,93 @@ CREATE TABLE wewnetrzne (
   zkonta INTEGER,
   nakonto INTEGER
 );
-CREATE INDEX wewnetrzne_data ON wewnetrzne (data, zkonta, nakonto, kwota);
+CREATE INDEX wewnetrzne_data ON wewnetrzne (data, id, zkonta, nakonto, kwota);
 CREATE INDEX wewnetrzne_zkonta ON wewnetrzne (zkonta, data);
 CREATE INDEX wewnetrzne_nakonto ON wewnetrzne (nakonto, data);
+
+-- What every account has taken in and given out over all time, in whole cents, kept by the
+-- triggers below in the same transaction as each write of an entry or a transfer: the balance
+-- panel reads one row per account instead of summing every entry. Planned rows never count. The
+-- account column has no type, so that it holds the value exactly as the entry holds it and
+-- joins the accounts as the entry would. Amounts are read as the exact sum reads them: rounded
+-- to cents, a decimal comma in a text taken as the decimal mark.
+CREATE TABLE obrotykont (
+  konto PRIMARY KEY,
+  przychod INTEGER DEFAULT 0,
+  wydatek INTEGER DEFAULT 0,
+  przychodzace INTEGER DEFAULT 0,
+  wychodzace INTEGER DEFAULT 0
+);
+
+CREATE TRIGGER transakcje_obroty_wstaw AFTER INSERT ON transakcje WHEN NEW.konto IS NOT NULL
+BEGIN
+  INSERT OR IGNORE INTO obrotykont (konto) VALUES (NEW.konto);
+  UPDATE obrotykont SET
+    przychod = przychod + CAST(round(replace(ifnull(NEW.przychod, 0), ',', '.') * 100) AS INTEGER),
+    wydatek = wydatek + CAST(round(replace(ifnull(NEW.wydatek, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = NEW.konto;
+END;
+
+CREATE TRIGGER transakcje_obroty_usun AFTER DELETE ON transakcje WHEN OLD.konto IS NOT NULL
+BEGIN
+  UPDATE obrotykont SET
+    przychod = przychod - CAST(round(replace(ifnull(OLD.przychod, 0), ',', '.') * 100) AS INTEGER),
+    wydatek = wydatek - CAST(round(replace(ifnull(OLD.wydatek, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = OLD.konto;
+END;
+
+CREATE TRIGGER transakcje_obroty_zmiana AFTER UPDATE OF konto, przychod, wydatek ON transakcje
+BEGIN
+  UPDATE obrotykont SET
+    przychod = przychod - CAST(round(replace(ifnull(OLD.przychod, 0), ',', '.') * 100) AS INTEGER),
+    wydatek = wydatek - CAST(round(replace(ifnull(OLD.wydatek, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = OLD.konto;
+  INSERT OR IGNORE INTO obrotykont (konto) SELECT NEW.konto WHERE NEW.konto IS NOT NULL;
+  UPDATE obrotykont SET
+    przychod = przychod + CAST(round(replace(ifnull(NEW.przychod, 0), ',', '.') * 100) AS INTEGER),
+    wydatek = wydatek + CAST(round(replace(ifnull(NEW.wydatek, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = NEW.konto;
+END;
+
+CREATE TRIGGER wewnetrzne_obroty_wstaw AFTER INSERT ON wewnetrzne
+BEGIN
+  INSERT OR IGNORE INTO obrotykont (konto) SELECT NEW.nakonto WHERE NEW.nakonto IS NOT NULL;
+  UPDATE obrotykont SET przychodzace = przychodzace +
+    CAST(round(replace(ifnull(NEW.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = NEW.nakonto;
+  INSERT OR IGNORE INTO obrotykont (konto) SELECT NEW.zkonta WHERE NEW.zkonta IS NOT NULL;
+  UPDATE obrotykont SET wychodzace = wychodzace +
+    CAST(round(replace(ifnull(NEW.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = NEW.zkonta;
+END;
+
+CREATE TRIGGER wewnetrzne_obroty_usun AFTER DELETE ON wewnetrzne
+BEGIN
+  UPDATE obrotykont SET przychodzace = przychodzace -
+    CAST(round(replace(ifnull(OLD.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = OLD.nakonto;
+  UPDATE obrotykont SET wychodzace = wychodzace -
+    CAST(round(replace(ifnull(OLD.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = OLD.zkonta;
+END;
+
+CREATE TRIGGER wewnetrzne_obroty_zmiana AFTER UPDATE OF kwota, zkonta, nakonto ON wewnetrzne
+BEGIN
+  UPDATE obrotykont SET przychodzace = przychodzace -
+    CAST(round(replace(ifnull(OLD.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = OLD.nakonto;
+  UPDATE obrotykont SET wychodzace = wychodzace -
+    CAST(round(replace(ifnull(OLD.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = OLD.zkonta;
+  INSERT OR IGNORE INTO obrotykont (konto) SELECT NEW.nakonto WHERE NEW.nakonto IS NOT NULL;
+  UPDATE obrotykont SET przychodzace = przychodzace +
+    CAST(round(replace(ifnull(NEW.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = NEW.nakonto;
+  INSERT OR IGNORE INTO obrotykont (konto) SELECT NEW.zkonta WHERE NEW.zkonta IS NOT NULL;
+  UPDATE obrotykont SET wychodzace = wychodzace +
+    CAST(round(replace(ifnull(NEW.kwota, 0), ',', '.') * 100) AS INTEGER)
+  WHERE konto = NEW.zkonta;
+END;
 
 CREATE TABLE zaplanowanewewnetrzne (
   id INTEGER PRIMARY KEY AUTOINCREMENT,

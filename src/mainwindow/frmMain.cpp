@@ -5,18 +5,25 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QTreeWidget>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
-#include <QTextEdit>
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "mainwindow/listapulpitu_gui.h"
+#include "mainwindow/notatnik_gui.h"
+#include "mainwindow/panelstanu_gui.h"
 #include "mainwindow/polecenia_gui.h"
+#include "mainwindow/przegladdnia_gui.h"
+#include "mainwindow/zaplanowane_gui.h"
+#include "store/MsgBoxModule.h"
 #include "ui/obrazki_gui.h"
+#include "ui/pasujliste_gui.h"
 #include "store/baza.h"
 #include "store/dzis.h"
 #include "store/filtr.h"
@@ -67,16 +74,18 @@ frmMain::frmMain(QWidget* rodzic) : QMainWindow(rodzic) {
   zbudujStatus();
 
   setMinimumSize(800, 600);
-  QSize rozmiar(1100, 720);
+  QSize rozmiar(1240, 820);
   if (const QScreen* ekran = QGuiApplication::primaryScreen())
     rozmiar = rozmiar.boundedTo(ekran->availableGeometry().size() - QSize(16, 48));
   resize(rozmiar.expandedTo(minimumSize()));
 
+  notatnik_->Wczytaj();
   OdswiezMain();
   OdswiezMainWewnetrzne();
   OdswiezMainZaplanowane();
   OdswiezMainWewnetrzneZaplanowane();
   StanKont();
+  przeglad_->PrzegladDnia();
   OdswiezStatus();
   connect(Zmiany::Instancja(), &Zmiany::DaneZmienione, this, &frmMain::DaneZmienione);
 }
@@ -269,19 +278,81 @@ QWidget* frmMain::zbudujPulpit() {
   pulpit_->setObjectName(QStringLiteral("fraPulpit"));
   static_cast<QFrame*>(pulpit_)->setFrameShape(QFrame::StyledPanel);
   ukladPulpitu_ = new QVBoxLayout(pulpit_);
-  ukladPulpitu_->setContentsMargins(12, 8, 12, 12);
+  ukladPulpitu_->setContentsMargins(10, 6, 10, 8);
   ukladPulpitu_->setSpacing(8);
 
+  // The date line and the search.
+  auto* gora = new QHBoxLayout;
+  gora->setSpacing(6);
   auto* lblImieniny = new QLabel(LiniaDaty(), pulpit_);
   lblImieniny->setObjectName(QStringLiteral("lblImieniny"));
-  lblImieniny->setWordWrap(true);
   QFont f = lblImieniny->font();
   f.setBold(true);
   f.setPointSizeF(f.pointSizeF() * 1.15);
   lblImieniny->setFont(f);
-  ukladPulpitu_->addWidget(lblImieniny);
-  ukladPulpitu_->addStretch(1);
-  return pulpit_;
+  gora->addWidget(lblImieniny, 1);
+  txtSzukaj_ = new QLineEdit(pulpit_);
+  txtSzukaj_->setObjectName(QStringLiteral("txtSzukaj"));
+  txtSzukaj_->setPlaceholderText(Napis(QStringLiteral("frmMain172")));
+  txtSzukaj_->setToolTip(Napis(QStringLiteral("frmMain172")));
+  txtSzukaj_->setClearButtonEnabled(true);
+  txtSzukaj_->setMinimumWidth(200);
+  auto* cmdSzukaj = new QPushButton(Napis(QStringLiteral("frmMain171")), pulpit_);
+  cmdSzukaj->setObjectName(QStringLiteral("cmdSzukaj"));
+  cmdSzukaj->setAutoDefault(false);
+  // Only executed entries are searched, in their browser.
+  const bool przeglad = MaPrzegladTransakcji();
+  txtSzukaj_->setEnabled(przeglad);
+  cmdSzukaj->setEnabled(przeglad);
+  connect(txtSzukaj_, &QLineEdit::returnPressed, this, &frmMain::cmdSzukaj_Click);
+  connect(cmdSzukaj, &QPushButton::clicked, this, &frmMain::cmdSzukaj_Click);
+  gora->addWidget(txtSzukaj_);
+  gora->addWidget(cmdSzukaj);
+  ukladPulpitu_->addLayout(gora);
+
+  // The balance panel with its chart, and the daily overview over the notepad.
+  auto* srodek = new QHBoxLayout;
+  srodek->setSpacing(10);
+  panel_ = new PanelStanu(pulpit_);
+  srodek->addWidget(panel_, 3);
+  auto* boczna = new QVBoxLayout;
+  boczna->setSpacing(6);
+  przeglad_ = new PrzegladDniaGui(pulpit_);
+  notatnik_ = new NotatnikGui(pulpit_);
+  boczna->addWidget(przeglad_, 3);
+  boczna->addWidget(notatnik_, 2);
+  srodek->addLayout(boczna, 2);
+  ukladPulpitu_->addLayout(srodek, 1);
+
+  // The lists: entries on the left with the planned sums, transfers on the right.
+  auto* dol = new QHBoxLayout;
+  dol->setSpacing(10);
+  const ListaPulpitu rodzaje[4] = {ListaPulpitu::Transakcje, ListaPulpitu::Zaplanowane,
+                                   ListaPulpitu::Wewnetrzne, ListaPulpitu::WewnetrzneZaplanowane};
+  for (int i = 0; i < 4; ++i) listy_[size_t(i)] = new ListaPulpituGui(rodzaje[i], pulpit_);
+  sumy_ = new SumyZaplanowanychGui(pulpit_);
+  auto* lewa = new QVBoxLayout;
+  lewa->setSpacing(4);
+  lewa->addWidget(listy_[0], 10);
+  lewa->addWidget(listy_[1], 5);
+  lewa->addWidget(sumy_);
+  auto* prawa = new QVBoxLayout;
+  prawa->setSpacing(4);
+  prawa->addWidget(listy_[2], 10);
+  prawa->addWidget(listy_[3], 5);
+  prawa->addSpacing(sumy_->sizeHint().height());
+  dol->addLayout(lewa, 3);
+  dol->addLayout(prawa, 2);
+  ukladPulpitu_->addLayout(dol, 3);
+
+  // On a small screen the dashboard scrolls rather than squeezing its lists to nothing.
+  auto* przewijanie = new QScrollArea;
+  przewijanie->setObjectName(QStringLiteral("scrPulpit"));
+  przewijanie->setWidget(pulpit_);
+  przewijanie->setWidgetResizable(true);
+  przewijanie->setFrameShape(QFrame::NoFrame);
+  pulpit_->setMinimumSize(840, 540);
+  return przewijanie;
 }
 
 void frmMain::zbudujStatus() {
@@ -322,12 +393,25 @@ void frmMain::OdswiezStatus() {
   for (QLabel* p : panele_) p->setToolTip(p->text());
 }
 
-// The dashboard fills these.
-void frmMain::OdswiezMain() {}
-void frmMain::OdswiezMainZaplanowane() {}
-void frmMain::OdswiezMainWewnetrzne() {}
-void frmMain::OdswiezMainWewnetrzneZaplanowane() {}
-void frmMain::StanKont() {}
+void frmMain::OdswiezMain() { listy_[0]->Odswiez(); }
+
+void frmMain::OdswiezMainZaplanowane() {
+  listy_[1]->Odswiez();
+  sumy_->Odswiez();
+}
+
+void frmMain::OdswiezMainWewnetrzne() { listy_[2]->Odswiez(); }
+void frmMain::OdswiezMainWewnetrzneZaplanowane() { listy_[3]->Odswiez(); }
+void frmMain::StanKont() { panel_->StanKont(); }
+
+void frmMain::PokolorujListy() {
+  for (ListaPulpituGui* l : listy_)
+    PasujListe(l->Lista(), sesja.pubUstawienia.listajeden, sesja.pubUstawienia.listadwa);
+}
+
+void frmMain::cmdSzukaj_Click() {
+  if (MaPrzegladTransakcji()) Szukaj(txtSzukaj_->text());
+}
 
 void frmMain::Przywroc() {
   setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
@@ -340,6 +424,7 @@ void frmMain::changeEvent(QEvent* e) {
   if (e->type() == QEvent::ActivationChange && isActiveWindow()) {
     OdswiezStatus();
     odswiezZegar();
+    przeglad_->Wznow();
   }
   QMainWindow::changeEvent(e);
 }
@@ -352,15 +437,10 @@ void frmMain::resizeEvent(QResizeEvent* e) {
 void frmMain::showEvent(QShowEvent* e) { QMainWindow::showEvent(e); }
 
 void frmMain::ZapiszNotatnik() {
-  QString tekst;
-  if (auto* n = findChild<QPlainTextEdit*>(QStringLiteral("txtNotatnik")))
-    tekst = n->toPlainText();
-  else if (auto* t = findChild<QTextEdit*>(QStringLiteral("txtNotatnik")))
-    tekst = t->toPlainText();
-  else
-    return;
-  if (OtworzBaze())
-    pubBaza().Wykonaj(QStringLiteral("UPDATE setup SET notatnik=") + SqlTekst(tekst));
+  // At the end of the session a note that could not be kept is said, not lost in silence.
+  if (!notatnik_->Zapisz())
+    MyMsgbox(Napis(QStringLiteral("frmMain173")), Napis(QStringLiteral("frmMain174")), MsgOK,
+             IkonaOstrzezenie);
 }
 
 void frmMain::closeEvent(QCloseEvent* e) {
@@ -393,6 +473,9 @@ void StanKont() {
 }
 void OdswiezStatus() {
   if (frmMain* f = frmMain::Instancja()) f->OdswiezStatus();
+}
+void PokolorujListy() {
+  if (frmMain* f = frmMain::Instancja()) f->PokolorujListy();
 }
 
 void ZakonczProgram() {

@@ -3,10 +3,17 @@
 // dashboard area, and the status bar with the working date, today and the time filter.
 
 #include <QMainWindow>
+#include <array>
 
+class ListaPulpituGui;
+class NotatnikGui;
+class PanelStanu;
+class PrzegladDniaGui;
 class QLabel;
+class QLineEdit;
 class QTimer;
 class QVBoxLayout;
+class SumyZaplanowanychGui;
 
 class frmMain : public QMainWindow {
   Q_OBJECT
@@ -24,6 +31,16 @@ class frmMain : public QMainWindow {
   void StanKont();
   // The status bar: working date, today, the time filter in force.
   void OdswiezStatus();
+  // The four lists striped anew in the theme's colours.
+  void PokolorujListy();
+  // The search of txtSzukaj (cmdSzukaj, Enter).
+  void cmdSzukaj_Click();
+
+  // The parts of the dashboard, for the commands and the tests.
+  ListaPulpituGui* Lista(int i) const { return listy_[size_t(i)]; }
+  PanelStanu* Panel() const { return panel_; }
+  PrzegladDniaGui* Przeglad() const { return przeglad_; }
+  NotatnikGui* Notatnik() const { return notatnik_; }
 
   // The dashboard's area, where the lists and the balance panel go.
   QWidget* Pulpit() const { return pulpit_; }
@@ -48,6 +65,12 @@ class frmMain : public QMainWindow {
 
   QWidget* pulpit_ = nullptr;
   QVBoxLayout* ukladPulpitu_ = nullptr;
+  std::array<ListaPulpituGui*, 4> listy_{};  // executed, planned entries; executed, planned transfers
+  SumyZaplanowanychGui* sumy_ = nullptr;
+  PanelStanu* panel_ = nullptr;
+  PrzegladDniaGui* przeglad_ = nullptr;
+  NotatnikGui* notatnik_ = nullptr;
+  QLineEdit* txtSzukaj_ = nullptr;
   QLabel* panele_[6] = {};
   QTimer* zegar_ = nullptr;
   bool zamkniety_ = false;
@@ -61,6 +84,7 @@ void OdswiezMainWewnetrzne();
 void OdswiezMainWewnetrzneZaplanowane();
 void StanKont();
 void OdswiezStatus();
+void PokolorujListy();
 // Ends the program by closing the main window, with the shut-down steps of its closing.
 void ZakonczProgram();
 // The date line of the main window: day name, day of the year and, in Polish, today's names.

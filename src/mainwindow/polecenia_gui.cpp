@@ -3,108 +3,197 @@
 #include <QHash>
 
 #include "mainwindow/frmMain.h"
+#include "mainwindow/pulpit.h"
 #include "store/MsgBoxModule.h"
+#include "store/baza.h"
+#include "store/dzis.h"
+#include "store/filtr.h"
 #include "store/napis.h"
 #include "store/session.h"
+#include "store/start.h"
 #include "ui/nawigacja_gui.h"
 
 namespace {
-bool pokaz(const char* ekran) {
-  return Nawigacja::Pokaz(QLatin1String(ekran), frmMain::Instancja());
-}
+QWidget* glowne() { return frmMain::Instancja(); }
+bool pokaz(const QString& ekran) { return Nawigacja::Pokaz(ekran, glowne()); }
+QString napis(int numer) { return Napis(QStringLiteral("frmMain%1").arg(numer)); }
 
-// A new income (1) or expense (2) entry, executed (tryb 2) or planned (tryb 1).
-void NowaTransakcja(int tryb, int rodzaj) {
-  sesja.pubTryb = tryb;
-  sesja.pubTransakcja.id = 0;
-  sesja.pubTransakcja.rodzaj = rodzaj;
-  sesja.pubKategoria.rodzaj = rodzaj;
-  pokaz("frmEdycjaTransakcji");
-}
-
-// A new transfer, executed (tryb 2) or planned (tryb 1).
-void NowyTransfer(int tryb) {
-  sesja.pubTryb = tryb;
-  sesja.pubTransakcja.id = 0;
-  sesja.pubTransakcja.rodzaj = 3;
-  sesja.pubTransfer = 0;
-  pokaz("frmEdycjaTransakcjiWewnetrznej");
-}
+const QString kPrzegladTransakcji = QStringLiteral("frmPrzegladTransakcji");
+const QString kPrzegladTransferow = QStringLiteral("frmPrzegladTransakcjiWewnetrznych");
 
 // Browsing master data with the details open, centred over the main window.
-void Przegladaj(const char* ekran) {
+void Przegladaj(const QString& ekran) {
   sesja.pubTrybPrzegladu = 1;
   sesja.pubSzczegoly = 1;
   sesja.pubPozycjaX = sesja.pubPozycjaY = -1;
   pokaz(ekran);
+  OdswiezStatus();
 }
 
-// The commands that need more than showing a screen, one line each. The lists and the balance
-// panel refill themselves when the store announces a change.
-const QHash<QString, Polecenie>& tabela() {
-  static const QHash<QString, Polecenie> t = {
-      {QStringLiteral("mnuKoniecPracy"), [] { ZakonczProgram(); }},
-      {QStringLiteral("mnuKonta"),
-       [] {
-         Przegladaj("frmPrzegladKont");
-         OdswiezStatus();
-       }},
-      {QStringLiteral("mnuKategoriePrzychodow"),
-       [] {
-         sesja.pubKategoria.rodzaj = 1;
-         Przegladaj("frmPrzegladKategorii");
-       }},
-      {QStringLiteral("mnuKategorieWydatkow"),
-       [] {
-         sesja.pubKategoria.rodzaj = 2;
-         Przegladaj("frmPrzegladKategorii");
-       }},
-      {QStringLiteral("mnuPrzychod"), [] { NowaTransakcja(2, 1); }},
-      {QStringLiteral("mnuWydatek"), [] { NowaTransakcja(2, 2); }},
-      {QStringLiteral("mnuPrzychodZaplanowany"), [] { NowaTransakcja(1, 1); }},
-      {QStringLiteral("mnuWydatekZaplanowany"), [] { NowaTransakcja(1, 2); }},
-      {QStringLiteral("mnuTransakcjaWewnetrzna"), [] { NowyTransfer(2); }},
-      {QStringLiteral("mnuTransakcjaWewnetrznaZaplanowana"), [] { NowyTransfer(1); }},
-      {QStringLiteral("mnuKontrahent"), [] { Przegladaj("frmPrzegladKontrahentow"); }},
-      {QStringLiteral("mnuZmianaDaty"),
-       [] {
-         pokaz("frmZmianaDaty");
-         OdswiezStatus();
-       }},
-      {QStringLiteral("cmdMenu(18)"),
-       [] {
-         if (MyMsgbox(Napis(QStringLiteral("frmMain208")), Napis(QStringLiteral("frmMain209")),
-                      MsgTakNie, IkonaPytanie) == WynikTak)
-           ZakonczProgram();
-       }},
-  };
-  return t;
+// A report over the period of the filter kind, as a report reads it from pubOkres.
+void okres(int rodzaj) {
+  FiltrCzasowyRekord f;
+  f.rodzaj = rodzaj;
+  sesja.pubOkres = FiltrCzasowy(f);
 }
 
-// Commands that only show a screen of their own. Each is enabled as soon as its screen is
-// registered (app/ekrany_gui.cpp): that one line is all a new screen needs.
-const QHash<QString, QString>& ekranyPolecen() {
-  static const QHash<QString, QString> t = {
-      {QStringLiteral("cmdMenu(17)"), QStringLiteral("frmKalkulatorCaly")},
-      {QStringLiteral("cmdMenu(22)"), QStringLiteral("frmParagon")},
-      {QStringLiteral("mnuSzablonyPrzychody"), QStringLiteral("frmSzablonyZewnetrzne")},
-      {QStringLiteral("mnuSzablonyWydatki"), QStringLiteral("frmSzablonyZewnetrzne")},
-      {QStringLiteral("mnuSzablonyWewnetrzne"), QStringLiteral("frmSzablonyWewnetrzne")},
-      {QStringLiteral("mnuParagon"), QStringLiteral("frmParagon")},
-      {QStringLiteral("mnuOkresowe"), QStringLiteral("frmOkresowe")},
-      {QStringLiteral("mnuKalendarz"), QStringLiteral("frmKalendarz")},
-      {QStringLiteral("mnuSymulacjaOszczednosciKategorii"),
-       QStringLiteral("frmKategorieOszczednosci")},
-      {QStringLiteral("mnuPrzelew"), QStringLiteral("frmEdycjaPrzelewu")},
-      {QStringLiteral("mnuUstawieniaUzytkownika"), QStringLiteral("frmUstawienia")},
-      {QStringLiteral("mnuUstawieniaKolorow"), QStringLiteral("frmKolory")},
-      {QStringLiteral("mnuKonfiguracja"), QStringLiteral("frmKonfiguracja")},
-      {QStringLiteral("mnuKreator"), QStringLiteral("frmKreatorWitamy")},
-      {QStringLiteral("mnuZadajPytanie"), QStringLiteral("frmZadajPytanie")},
-      {QStringLiteral("mnuUstawieniaInternetowe"), QStringLiteral("frmUstawieniaInternetowe")},
-      {QStringLiteral("mnuPomoc"), QStringLiteral("frmPomoc")},
-      {QStringLiteral("mnuOProgramie"), QStringLiteral("frmOProgramie")},
-  };
+// The wizard again: everything the user entered goes, after three questions when there is
+// anything to lose, and the wizard starts as at the first run.
+void KreatorPonownie() {
+  if (!CzyPustaBaza()) {
+    const int pytania[3][2] = {{192, 193}, {194, 195}, {196, 197}};
+    for (const auto& p : pytania)
+      if (MyMsgbox(napis(p[0]), napis(p[1]), MsgTakNie, IkonaOstrzezenie) != WynikTak) return;
+    if (!WyczyscWszystkieDane()) {
+      MyMsgbox(napis(198), napis(199), MsgOK, IkonaOstrzezenie);
+      return;
+    }
+  }
+  sesja.pubTypKreatora = 0;
+  sesja.pubProfilKreatora = 0;
+  sesja.pubKreatorPrzerwany = false;
+  sesja.pubKreatorZakonczony = false;
+  sesja.pubKreatorSzerokosc = sesja.pubKreatorWysokosc = 0;
+  pokaz(QStringLiteral("frmKreatorKategorie"));
+  // An abandoned wizard leaves no accounts or counterparties, so the next start is a first run.
+  if (!sesja.pubKreatorZakonczony && OtworzBaze())
+    pubBaza().Transakcja([] {
+      return pubBaza().Wykonaj(QStringLiteral("DELETE FROM konta")).ok &&
+             pubBaza().Wykonaj(QStringLiteral("DELETE FROM kontrahent")).ok;
+    });
+}
+
+// A command and the screen it needs (none: it always runs).
+struct Wpis {
+  Polecenie polecenie;
+  QString ekran;
+};
+
+const QHash<QString, Wpis>& tabela() {
+  static const QHash<QString, Wpis> t = [] {
+    QHash<QString, Wpis> t;
+    const auto dodaj = [&t](const QString& nazwa, const QString& ekran, Polecenie p) {
+      t.insert(nazwa, Wpis{std::move(p), ekran});
+    };
+    const auto ekran = [&dodaj](const QString& nazwa, const QString& e) {
+      dodaj(nazwa, e, [e] { pokaz(e); });
+    };
+    const QString edytor = QStringLiteral("frmEdycjaTransakcji");
+    const QString edytorTransferu = QStringLiteral("frmEdycjaTransakcjiWewnetrznej");
+    dodaj(QStringLiteral("mnuKoniecPracy"), {}, [] { ZakonczProgram(); });
+    dodaj(QStringLiteral("cmdMenu(18)"), {}, [] {
+      if (MyMsgbox(napis(208), napis(209), MsgTakNie, IkonaPytanie) == WynikTak) ZakonczProgram();
+    });
+    dodaj(QStringLiteral("mnuKreator"), {}, KreatorPonownie);
+    dodaj(QStringLiteral("mnuPrzychod"), edytor, [] { NowaTransakcja(2, 1); });
+    dodaj(QStringLiteral("mnuWydatek"), edytor, [] { NowaTransakcja(2, 2); });
+    dodaj(QStringLiteral("mnuPrzychodZaplanowany"), edytor, [] { NowaTransakcja(1, 1); });
+    dodaj(QStringLiteral("mnuWydatekZaplanowany"), edytor, [] { NowaTransakcja(1, 2); });
+    dodaj(QStringLiteral("mnuTransakcjaWewnetrzna"), edytorTransferu, [] { NowyTransfer(2); });
+    dodaj(QStringLiteral("mnuTransakcjaWewnetrznaZaplanowana"), edytorTransferu,
+          [] { NowyTransfer(1); });
+    dodaj(QStringLiteral("mnuKonta"), QStringLiteral("frmPrzegladKont"),
+          [] { Przegladaj(QStringLiteral("frmPrzegladKont")); });
+    for (int rodzaj : {1, 2})
+      dodaj(rodzaj == 1 ? QStringLiteral("mnuKategoriePrzychodow")
+                        : QStringLiteral("mnuKategorieWydatkow"),
+            QStringLiteral("frmPrzegladKategorii"), [rodzaj] {
+              sesja.pubKategoria.rodzaj = rodzaj;
+              Przegladaj(QStringLiteral("frmPrzegladKategorii"));
+            });
+    dodaj(QStringLiteral("mnuKontrahent"), QStringLiteral("frmPrzegladKontrahentow"),
+          [] { Przegladaj(QStringLiteral("frmPrzegladKontrahentow")); });
+    dodaj(QStringLiteral("mnuZmianaDaty"), QStringLiteral("frmZmianaDaty"), [] {
+      pokaz(QStringLiteral("frmZmianaDaty"));
+      OdswiezStatus();
+    });
+    dodaj(QStringLiteral("mnuUstawieniaKolorow"), QStringLiteral("frmKolory"), [] {
+      pokaz(QStringLiteral("frmKolory"));
+      PokolorujListy();
+    });
+    for (int rodzaj : {1, 2})
+      dodaj(rodzaj == 1 ? QStringLiteral("mnuSzablonyPrzychody")
+                        : QStringLiteral("mnuSzablonyWydatki"),
+            QStringLiteral("frmSzablonyZewnetrzne"), [rodzaj] {
+              sesja.pubTransakcja.rodzaj = rodzaj;
+              sesja.pubKategoria.rodzaj = rodzaj;
+              pokaz(QStringLiteral("frmSzablonyZewnetrzne"));
+            });
+
+    // Reports: the period of the kind named goes to pubOkres, then the report shows.
+    for (int i = 0; i < 6; ++i) {
+      dodaj(QStringLiteral("mnuTransakcjeBiezacy(%1)").arg(i),
+            QStringLiteral("frmRaportTransakcji"), [i] {
+              okres(i);
+              sesja.pubTryb = 2;
+              sesja.pubFiltrTransakcji = QStringLiteral(" AND transakcje.konto=konta.id ");
+              sesja.pubTytulTransakcji = Napis(QStringLiteral("frmMain19"));
+              pokaz(QStringLiteral("frmRaportTransakcji"));
+            });
+      dodaj(QStringLiteral("mnuTransferyBiezacy(%1)").arg(i),
+            QStringLiteral("frmRaportTransakcjiWewnetrznych"), [i] {
+              okres(i);
+              sesja.pubTryb = 2;
+              sesja.pubFiltrTransferow.clear();
+              pokaz(QStringLiteral("frmRaportTransakcjiWewnetrznych"));
+            });
+    }
+    dodaj(QStringLiteral("mnuKontaBiezace"), QStringLiteral("frmRaport"), [] {
+      okres(3);
+      sesja.pubWezelKont = QStringLiteral("R");
+      pokaz(QStringLiteral("frmRaport"));
+    });
+    dodaj(QStringLiteral("mnuWydrukKontWCzasie"), QStringLiteral("frmRaportKontaWCzasie"), [] {
+      sesja.pubWezelKont = QStringLiteral("R");
+      pokaz(QStringLiteral("frmRaportKontaWCzasie"));
+    });
+    for (int rodzaj : {1, 2}) {
+      const QString p = rodzaj == 1 ? QStringLiteral("Przychodow") : QStringLiteral("Wydatkow");
+      dodaj(QStringLiteral("mnuKategorie") + p + QStringLiteral("Biezace"),
+            QStringLiteral("frmRaportKategorii"), [rodzaj] {
+              okres(3);
+              sesja.pubKategoria.identyfikator = QStringLiteral("Root");
+              sesja.pubKategoria.rodzaj = rodzaj;
+              pokaz(QStringLiteral("frmRaportKategorii"));
+            });
+      dodaj(QStringLiteral("mnuKategorie") + p + QStringLiteral("WCzasie"),
+            QStringLiteral("frmRaportKategorieWCzasie"), [rodzaj] {
+              sesja.pubKategoria.identyfikator = QStringLiteral("Root");
+              sesja.pubKategoria.rodzaj = rodzaj;
+              pokaz(QStringLiteral("frmRaportKategorieWCzasie"));
+            });
+    }
+    dodaj(QStringLiteral("mnuKontrahenciBiezace"), QStringLiteral("frmRaportKontrahenta"), [] {
+      okres(3);
+      sesja.pubKontrahent.id = 0;
+      pokaz(QStringLiteral("frmRaportKontrahenta"));
+    });
+    dodaj(QStringLiteral("mnuKontrahenciWCzasie"), QStringLiteral("frmRaportKontrahentaWCzasie"),
+          [] {
+            sesja.pubKontrahent.id = 0;
+            pokaz(QStringLiteral("frmRaportKontrahentaWCzasie"));
+          });
+
+    // Commands that only show a screen of their own: each is enabled as soon as its screen is
+    // registered (app/ekrany_gui.cpp); that one line is all a new screen needs.
+    ekran(QStringLiteral("cmdMenu(17)"), QStringLiteral("frmKalkulatorCaly"));
+    ekran(QStringLiteral("cmdMenu(22)"), QStringLiteral("frmParagon"));
+    ekran(QStringLiteral("mnuParagon"), QStringLiteral("frmParagon"));
+    ekran(QStringLiteral("mnuSzablonyWewnetrzne"), QStringLiteral("frmSzablonyWewnetrzne"));
+    ekran(QStringLiteral("mnuOkresowe"), QStringLiteral("frmOkresowe"));
+    ekran(QStringLiteral("mnuKalendarz"), QStringLiteral("frmKalendarz"));
+    ekran(QStringLiteral("mnuSymulacjaOszczednosciKategorii"),
+          QStringLiteral("frmKategorieOszczednosci"));
+    ekran(QStringLiteral("mnuPrzelew"), QStringLiteral("frmEdycjaPrzelewu"));
+    ekran(QStringLiteral("mnuUstawieniaUzytkownika"), QStringLiteral("frmUstawienia"));
+    ekran(QStringLiteral("mnuKonfiguracja"), QStringLiteral("frmKonfiguracja"));
+    ekran(QStringLiteral("mnuPomocPodstawowa"), QStringLiteral("frmKreatorPomoc"));
+    ekran(QStringLiteral("mnuZadajPytanie"), QStringLiteral("frmZadajPytanie"));
+    ekran(QStringLiteral("mnuUstawieniaInternetowe"), QStringLiteral("frmUstawieniaInternetowe"));
+    ekran(QStringLiteral("mnuPomoc"), QStringLiteral("frmPomoc"));
+    ekran(QStringLiteral("mnuOProgramie"), QStringLiteral("frmOProgramie"));
+    return t;
+  }();
   return t;
 }
 
@@ -174,20 +263,84 @@ QString NazwaPolecenia(const QString& nazwa) {
 }
 
 bool MaPolecenie(const QString& nazwa) {
-  const QString polecenie = NazwaPolecenia(nazwa);
-  if (tabela().contains(polecenie)) return true;
-  const auto ekran = ekranyPolecen().constFind(polecenie);
-  return ekran != ekranyPolecen().constEnd() && Nawigacja::Dostepny(*ekran);
+  const auto it = tabela().constFind(NazwaPolecenia(nazwa));
+  return it != tabela().constEnd() && (it->ekran.isEmpty() || Nawigacja::Dostepny(it->ekran));
 }
 
 bool UruchomPolecenie(const QString& nazwa) {
-  const QString polecenie = NazwaPolecenia(nazwa);
-  const auto it = tabela().constFind(polecenie);
-  if (it != tabela().constEnd()) {
-    (*it)();
-    return true;
+  if (!MaPolecenie(nazwa)) return false;
+  tabela().value(NazwaPolecenia(nazwa)).polecenie();
+  return true;
+}
+
+void NowaTransakcja(int tryb, int rodzaj) {
+  sesja.pubTryb = tryb;
+  sesja.pubTransakcja.id = 0;
+  sesja.pubTransakcja.rodzaj = rodzaj;
+  sesja.pubKategoria.rodzaj = rodzaj;
+  pokaz(QStringLiteral("frmEdycjaTransakcji"));
+}
+
+void NowyTransfer(int tryb) {
+  sesja.pubTryb = tryb;
+  sesja.pubTransakcja.id = 0;
+  sesja.pubTransakcja.rodzaj = 3;
+  sesja.pubTransfer = 0;
+  pokaz(QStringLiteral("frmEdycjaTransakcjiWewnetrznej"));
+}
+
+bool MaPrzegladTransakcji() { return Nawigacja::Dostepny(kPrzegladTransakcji); }
+bool MaPrzegladTransferow() { return Nawigacja::Dostepny(kPrzegladTransferow); }
+
+void PokazPrzegladTransakcji(int tryb, const QString& fragment, const QString& tytul,
+                             int rodzajFiltra) {
+  sesja.pubWierszTransakcji = 0;
+  sesja.pubTryb = tryb;
+  sesja.pubFiltrTransakcji = fragment;
+  sesja.pubTytulTransakcji = tytul;
+  if (rodzajFiltra >= 0) sesja.pubFiltrCzasowy.rodzaj = rodzajFiltra;
+  pokaz(kPrzegladTransakcji);
+  OdswiezStatus();
+}
+
+void PokazPrzegladTransferow(int tryb, const QString& fragment, const QString& tytul,
+                             int rodzajFiltra) {
+  sesja.pubWierszTransferu = 0;
+  sesja.pubTryb = tryb;
+  sesja.pubFiltrTransferow = fragment;
+  sesja.pubTytulTransferow = tytul;
+  if (rodzajFiltra >= 0) sesja.pubFiltrCzasowy.rodzaj = rodzajFiltra;
+  pokaz(kPrzegladTransferow);
+  OdswiezStatus();
+}
+
+void PokazZaplanowane(int indeks) {
+  if (indeks < 0 || indeks > 3) return;
+  const FiltrCzasowyRekord dawny = sesja.pubFiltrCzasowy;
+  const QString dawnyFragment = sesja.pubFiltrTransakcji;
+  // The overdue ones: from the program's first day to yesterday.
+  if (indeks % 2 == 1) {
+    sesja.pubFiltrCzasowy.od = QDate(2001, 1, 1);
+    sesja.pubFiltrCzasowy.do_ = Dzis().addDays(-1);
   }
-  const auto ekran = ekranyPolecen().constFind(polecenie);
-  return ekran != ekranyPolecen().constEnd() &&
-         Nawigacja::Pokaz(*ekran, frmMain::Instancja());
+  PokazPrzegladTransakcji(
+      1, indeks < 2 ? QStringLiteral(" AND przychod<>0") : QStringLiteral(" AND wydatek<>0"),
+      napis(210 + indeks), indeks % 2 == 1 ? 6 : 0);
+  sesja.pubFiltrCzasowy.rodzaj = dawny.rodzaj;
+  sesja.pubFiltrCzasowy.od = dawny.od;
+  sesja.pubFiltrCzasowy.do_ = dawny.do_;
+  sesja.pubFiltrTransakcji = dawnyFragment;
+  OdswiezStatus();
+}
+
+bool Szukaj(const QString& tekst) {
+  const QString t = tekst.trimmed();
+  if (t.isEmpty()) {
+    MyMsgbox(napis(179), napis(180), MsgOK, IkonaInformacja);
+    return false;
+  }
+  // Every period: the filter stays on "all" afterwards.
+  PokazPrzegladTransakcji(2, FiltrWyszukiwania(t),
+                          napis(181) + QStringLiteral(" \"") + t + QLatin1Char('"'), 0);
+  return true;
 }

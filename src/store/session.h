@@ -111,6 +111,14 @@ struct Session {
   qint64 pubPrzelewKontrahent = 0;
   qint64 pubPrzelewZaplanowana = 0;
 
+  // The first-run wizard: the chosen category set (0 none) and colour profile, the flag that
+  // unwinds its stacked windows, the flag that it was finished, and the last size of a step.
+  int pubTypKreatora = 0;
+  int pubProfilKreatora = 0;
+  bool pubKreatorPrzerwany = false;
+  bool pubKreatorZakonczony = false;
+  int pubKreatorSzerokosc = 0, pubKreatorWysokosc = 0;
+
   // The calculator: the value handed in and out, and where its window goes (screen pixels).
   QString pubKalkWartosc;
   int pubKalkLewa = 0, pubKalkGora = 0;

@@ -4,6 +4,7 @@
 // colour); a row is one group of bars, or one slice of a pie.
 
 #include <QColor>
+#include <QDate>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -27,3 +28,16 @@ struct DaneWykresu {
 
 // One row, two columns: column 1 holds the first value, column 2 the second.
 DaneWykresu DwaSlupki(double wartosc1, double wartosc2);
+
+// Six values as bars: six rows of one column, filled green (the chart of the six balances, and
+// of six months).
+DaneWykresu WykresMiesiecy(const std::vector<double>& szesc, const QStringList& etykiety = {});
+// Six values as a pie; negative values have no slice.
+DaneWykresu WykresKolowy(const std::vector<double>& szesc, const QStringList& etykiety = {});
+
+// The last six months up to today's month, from the store: kind 1 income, 2 expense, 3 both
+// (income green in column 1, expense red in column 2). Rows are the months, oldest first,
+// labelled with their short names.
+DaneWykresu WykresBilansu(int rodzaj, const QDate& dzis);
+// The statement behind it, for today's month and year.
+QString ZapytanieBilansu(int miesiac, int rok);

@@ -7,8 +7,14 @@
 #include <QChartView>
 #include <QPieSeries>
 #include <QPieSlice>
+#include <QCursor>
+#include <QGraphicsScene>
+#include <QPainter>
+#include <QToolTip>
 #include <QValueAxis>
 #include <algorithm>
+
+#include "store/tekst.h"
 
 namespace {
 QColor kolorDomyslny(int i) {
@@ -24,6 +30,8 @@ QColor kolor(const DaneWykresu& d, int i) {
 
 void slupki(QChart* chart, const DaneWykresu& d) {
   auto* seria = new QBarSeries;
+  QStringList kategorie;
+  for (int w = 1; w <= d.wiersze; ++w) kategorie << d.etykietyWierszy.value(w - 1);
   double najmniej = 0, najwiecej = 0;
   for (int k = 1; k <= d.kolumny; ++k) {
     auto* zestaw = new QBarSet(d.etykietyKolumn.value(k - 1));
@@ -35,14 +43,24 @@ void slupki(QChart* chart, const DaneWykresu& d) {
       najmniej = std::min(najmniej, v);
       najwiecej = std::max(najwiecej, v);
     }
+    // Small charts have no scale: a bar tells its name and amount when the pointer rests on it.
+    QObject::connect(zestaw, &QBarSet::hovered, zestaw, [zestaw, kategorie](bool nad, int i) {
+      if (!nad) return QToolTip::hideText();
+      QString t = kategorie.value(i);
+      if (!zestaw->label().isEmpty()) t += (t.isEmpty() ? QString() : QStringLiteral(" - ")) + zestaw->label();
+      if (!t.isEmpty()) t += QStringLiteral(": ");
+      QToolTip::showText(QCursor::pos(), t + FormatKwoty(zestaw->at(i)).trimmed());
+    });
     seria->append(zestaw);
   }
   chart->addSeries(seria);
   auto* osX = new QBarCategoryAxis;
-  QStringList kategorie;
-  for (int w = 1; w <= d.wiersze; ++w) kategorie << d.etykietyWierszy.value(w - 1);
   osX->append(kategorie);
-  osX->setVisible(!d.etykietyWierszy.isEmpty());
+  // Short names (months) stand under their bars; longer ones (kinds of account) would be cut to
+  // "...", so they are left to the tool tips and the figures beside the chart.
+  int najdluzsza = 0;
+  for (const QString& k : kategorie) najdluzsza = std::max(najdluzsza, int(k.size()));
+  osX->setVisible(!kategorie.isEmpty() && najdluzsza > 0 && najdluzsza <= 5);
   chart->addAxis(osX, Qt::AlignBottom);
   seria->attachAxis(osX);
   auto* osY = new QValueAxis;
@@ -61,7 +79,9 @@ void kolowy(QChart* chart, const DaneWykresu& d) {
   for (int w = 1; w <= d.wiersze; ++w) {
     QPieSlice* s = seria->append(d.etykietyWierszy.value(w - 1), std::max(0.0, d.Wartosc(w, 1)));
     s->setColor(kolor(d, w - 1));
+    s->setBorderColor(Qt::white);
   }
+  seria->setPieSize(0.9);
   chart->addSeries(seria);
 }
 }  // namespace
@@ -75,10 +95,15 @@ QChartView* NowyWykres(const QString& nazwa, QWidget* rodzic) {
   return v;
 }
 
-void RysujWykres(QChartView* wykres, const DaneWykresu& dane) {
+namespace {
+QChart* zbudujWykres(const DaneWykresu& dane) {
   auto* chart = new QChart;
   chart->setAnimationOptions(QChart::NoAnimation);
-  chart->legend()->setVisible(dane.typ == DaneWykresu::Kolowy && !dane.etykietyWierszy.isEmpty());
+  // The pie names its slices, and bars of two series name the series; one series needs none.
+  const bool legenda = dane.typ == DaneWykresu::Kolowy ? !dane.etykietyWierszy.isEmpty()
+                                                       : dane.kolumny > 1 && !dane.etykietyKolumn.isEmpty();
+  chart->legend()->setVisible(legenda);
+  if (dane.typ == DaneWykresu::Kolowy) chart->legend()->setAlignment(Qt::AlignRight);
   chart->setMargins(QMargins(2, 2, 2, 2));
   chart->setBackgroundRoundness(0);
   chart->setTitle(dane.tytul);
@@ -86,9 +111,41 @@ void RysujWykres(QChartView* wykres, const DaneWykresu& dane) {
     kolowy(chart, dane);
   else if (dane.wiersze > 0 && dane.kolumny > 0)
     slupki(chart, dane);
+  return chart;
+}
+}  // namespace
+
+void RysujWykres(QChartView* wykres, const DaneWykresu& dane) {
   QChart* dawny = wykres->chart();
-  wykres->setChart(chart);
+  wykres->setChart(zbudujWykres(dane));
   delete dawny;
+}
+
+void WykresMiesiecy(QChartView* wykres, const std::vector<double>& szesc,
+                    const QStringList& etykiety) {
+  RysujWykres(wykres, WykresMiesiecy(szesc, etykiety));
+}
+
+void WykresKolowy(QChartView* wykres, const std::vector<double>& szesc,
+                  const QStringList& etykiety) {
+  RysujWykres(wykres, WykresKolowy(szesc, etykiety));
+}
+
+void WykresBilansu(QChartView* wykres, int rodzaj, const QDate& dzis) {
+  RysujWykres(wykres, WykresBilansu(rodzaj, dzis));
+}
+
+QImage ObrazWykresu(const DaneWykresu& dane, const QSize& rozmiar) {
+  QImage obraz(rozmiar, QImage::Format_ARGB32_Premultiplied);
+  obraz.fill(Qt::white);
+  QGraphicsScene scena;
+  QChart* chart = zbudujWykres(dane);
+  scena.addItem(chart);  // the scene owns the chart from here
+  chart->setGeometry(QRectF(QPointF(0, 0), QSizeF(rozmiar)));
+  QPainter g(&obraz);
+  g.setRenderHint(QPainter::Antialiasing);
+  scena.render(&g, QRectF(QPointF(0, 0), QSizeF(rozmiar)), QRectF(QPointF(0, 0), QSizeF(rozmiar)));
+  return obraz;
 }
 
 void WykresDwaSlupki(QChartView* wykres, double wartosc1, double wartosc2) {

@@ -138,8 +138,8 @@ TEST(frmMain, ExitCommandsAndShutDown) {
   QFile::remove(plik);
   frmMain f;
   f.show();
-  auto* notatnik = new QPlainTextEdit(f.Pulpit());
-  notatnik->setObjectName(QStringLiteral("txtNotatnik"));
+  auto* notatnik = f.findChild<QPlainTextEdit*>(QStringLiteral("txtNotatnik"));
+  ASSERT_NE(notatnik, nullptr);
   notatnik->setPlainText(QStringLiteral("Kupić mleko\nO'Brien"));
 
   m.host.odpowiedzi = {WynikNie};

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QVarLengthArray>
 
+#include "store/jet_przedrostki.h"
 #include "store/jet_schemat.h"
 #include "store/jet_zakresy.h"
 
@@ -659,5 +660,5 @@ class Pamiec {
 QString TlumaczJet(const QString& jet) {
   thread_local Pamiec pamiec;
   if (const QString* znany = pamiec.znajdz(jet)) return *znany;
-  return pamiec.dodaj(jet, Tlumacz(ZakresyDat(jet)).wynik());
+  return pamiec.dodaj(jet, Tlumacz(ZakresyDat(ZakresyPrzedrostkow(jet))).wynik());
 }

@@ -33,6 +33,7 @@ class frmRaport::Postep : public PostepRaportu {
   }
   bool Krok(int wartosc) override {
     okno_->pbrPasek_->setValue(std::min(wartosc, okno_->pbrPasek_->maximum()));
+    if (okno_->poKroku) okno_->poKroku(wartosc);
     if (zegar_.elapsed() >= 30 || pierwszy_) {
       pierwszy_ = false;
       QApplication::processEvents();

@@ -4,6 +4,7 @@
 // and can be saved (RTF, text, PDF, CSV) and printed, whole or the selected part.
 
 #include <QDialog>
+#include <functional>
 #include <memory>
 
 #include "reports/raporty.h"
@@ -24,6 +25,10 @@ class frmRaport : public QDialog {
   bool TworzRaport();
   bool Gotowy() const { return gotowy_; }
   const Raport& raport() const { return *raport_; }
+
+  // Called at every row of the walk, after the bar has moved (the gallery takes its picture of
+  // a report being written here).
+  std::function<void(int krok)> poKroku;
 
   void cmdZapisz_Click();
   void cmdDrukuj_Click();

@@ -35,9 +35,17 @@ unsigned char bajt1250(char16_t c) {
 }
 
 void tekstRtf(QByteArray& out, const QString& tekst) {
-  for (const QChar ch : tekst) {
-    const char16_t c = ch.unicode();
-    if (c == u'\\' || c == u'{' || c == u'}') {
+  const qsizetype n = tekst.size();
+  for (qsizetype i = 0; i < n; ++i) {
+    const char16_t c = tekst[i].unicode();
+    if (c == u' ') {
+      // A blank between two other characters is written as it is; blanks that pad a column,
+      // and one that begins or ends a run, as the character code, which no reader folds
+      // together or takes for the end of a control word.
+      const bool sam = i > 0 && i + 1 < n && tekst[i - 1] != QLatin1Char(' ') &&
+                       tekst[i + 1] != QLatin1Char(' ');
+      out += sam ? " " : "\\'20";
+    } else if (c == u'\\' || c == u'{' || c == u'}') {
       out += '\\';
       out += char(c);
     } else if (c == u'\t') {

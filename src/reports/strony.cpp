@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <cmath>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -150,6 +151,11 @@ bool RysujStrony(const DokumentRaportu& d, QPagedPaintDevice& urzadzenie, QStrin
 }
 
 QByteArray DoPdf(const DokumentRaportu& d, QString* blad) {
+  // Fonts and pages need the GUI side of Qt (an offscreen one will do).
+  if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+    if (blad) *blad = Napis(QStringLiteral("drukowanie7"));
+    return {};
+  }
   QByteArray pdf;
   QBuffer bufor(&pdf);
   bufor.open(QIODevice::WriteOnly);

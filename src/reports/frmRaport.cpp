@@ -152,6 +152,7 @@ bool frmRaport::TworzRaport() {
   ::TworzRaport(formularz_, *raport_);
   raport_->postep = nullptr;
   WypelnijWidok(raport_->dok, *rtbRaport_->document());
+  rtbRaport_->moveCursor(QTextCursor::Start);
 
   fraCzekac_->hide();
   rtbRaport_->viewport()->unsetCursor();

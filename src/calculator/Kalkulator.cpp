@@ -202,13 +202,9 @@ void Kalkulator::Dzialanie(int n) {
 }
 
 void Kalkulator::Oblicz() {
-  // An operation with no second operand typed yet is dropped: "200 - =" keeps 200.
-  if (czekaDzialanie) {
-    WykonajDzialanie();
-  } else {
-    pamiec = QStringLiteral("0");
-    dzialanie = Brak;
-  }
+  // "=" always works out the pending operation with the memory, also before a second number
+  // is typed: "200 - =" takes 200 from the memory's 0 and gives -200.00.
+  WykonajDzialanie();
   czekaDzialanie = false;
   nowaLiczba = true;
 }

@@ -33,6 +33,8 @@ OknoKalkulatora::OknoKalkulatora(QWidget* rodzic, const QString& nazwa, const QS
   duza.setPointSizeF(duza.pointSizeF() * 1.6);
   wyswietlacz_->setFont(duza);
   wyswietlacz_->setMinimumHeight(QFontMetrics(duza).height() + 14);
+  // Any result up to a trillion shows whole.
+  wyswietlacz_->setMinimumWidth(PoleKwoty::Szerokosc(wyswietlacz_));
   wyswietlacz_->installEventFilter(this);
   siatka->addWidget(wyswietlacz_, 0, 0, 1, 4);
 

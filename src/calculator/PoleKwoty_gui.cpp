@@ -3,7 +3,10 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QToolButton>
+#include <algorithm>
 
 #include "calculator/frmKalkulator.h"
 #include "store/kwota.h"
@@ -14,6 +17,8 @@ namespace {
 const char* const kWlasciwosc = "zorvikPoleKwoty";
 // Where the calculator opens: right of the field, its top at the field's bottom edge.
 constexpr int kOdstepKalkulatora = 22;
+// The blank a line edit keeps on each side of its text, inside the frame.
+constexpr int kMarginesPola = 2;
 }  // namespace
 
 PoleTekstowe StanPola(const QLineEdit* pole) {
@@ -77,6 +82,9 @@ PoleKwoty::PoleKwoty(QLineEdit* pole) : QObject(pole) {
   // Nothing but keys reaches the field: no pasting or dropping of free text.
   pole->setContextMenuPolicy(Qt::NoContextMenu);
   pole->setAcceptDrops(false);
+  // The typing rule limits what is typed; what the program writes (an amount read from the
+  // store, a calculator's result) is never cut, whatever its length.
+  pole->setMaxLength(32767);
   pole->installEventFilter(this);
 }
 
@@ -94,7 +102,6 @@ PoleZKalkulatorem PoleKwoty::NowePole(const QString& nazwaPola, const QString& n
                                       const QString& podpowiedzPrzycisku, QWidget* rodzic) {
   auto* pole = new QLineEdit(rodzic);
   pole->setObjectName(nazwaPola);
-  pole->setMaxLength(10);
   PoleKwoty* kwota = Podlacz(pole);
   auto* przycisk = new QToolButton(rodzic);
   przycisk->setObjectName(nazwaPrzycisku);
@@ -102,6 +109,24 @@ PoleZKalkulatorem PoleKwoty::NowePole(const QString& nazwaPola, const QString& n
   przycisk->setToolTip(podpowiedzPrzycisku);
   connect(przycisk, &QToolButton::clicked, kwota, &PoleKwoty::OtworzKalkulator);
   return {pole, przycisk};
+}
+
+int PoleKwoty::Szerokosc(const QLineEdit* pole) {
+  // The widest amount the program holds, with its sign, and the field's frame and margins.
+  const QString najszersza =
+      QStringLiteral("-999999999999") + sesja.pubSeparator + QStringLiteral("99");
+  const QMargins marginesy = pole->textMargins();
+  QStyleOptionFrame opcje;
+  opcje.initFrom(pole);
+  opcje.lineWidth =
+      pole->hasFrame() ? pole->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &opcje, pole) : 0;
+  const QFontMetrics fm = pole->fontMetrics();
+  // Letters may reach beyond their advance at either end; the caret takes a pixel.
+  const int wystajace = std::max(0, -fm.minLeftBearing()) + std::max(0, -fm.minRightBearing());
+  const QSize tekst(fm.horizontalAdvance(najszersza) + wystajace + marginesy.left() +
+                        marginesy.right() + 2 * kMarginesPola + 1,
+                    fm.height());
+  return pole->style()->sizeFromContents(QStyle::CT_LineEdit, &opcje, tekst, pole).width();
 }
 
 QLineEdit* PoleKwoty::Pole() const { return static_cast<QLineEdit*>(parent()); }

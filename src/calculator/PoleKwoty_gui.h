@@ -8,6 +8,9 @@
 //   - Wartosc() reads the amount (whole cents), UstawWartosc() writes one in the shape;
 //   - OtworzKalkulator() is what a cmdKalkulator button does: frmKalkulator beside the field,
 //     its result back into the field.
+// The typing rule limits what is typed (ten characters); what the program writes into the field
+// (an amount from the store, a calculator's result) is any amount up to 10^12 and is never cut:
+// a screen sets no length cap on an amount field.
 
 #include <QObject>
 #include <functional>
@@ -19,8 +22,8 @@ class QLineEdit;
 class QToolButton;
 class QWidget;
 
-// An amount field (at most 10 characters) with the rules attached, and its "..." button beside
-// it that opens the calculator for it.
+// An amount field with the rules attached, and its "..." button beside it that opens the
+// calculator for it.
 struct PoleZKalkulatorem {
   QLineEdit* pole;
   QToolButton* kalkulator;
@@ -29,8 +32,8 @@ struct PoleZKalkulatorem {
 class PoleKwoty : public QObject {
   Q_OBJECT
  public:
-  // Attaches the rules to the field; the field owns the attachment. Attaching twice gives the
-  // same object.
+  // Attaches the rules to the field (lifting any length cap); the field owns the attachment.
+  // Attaching twice gives the same object.
   static PoleKwoty* Podlacz(QLineEdit* pole);
   // The attachment of a field, or null.
   static PoleKwoty* Z(const QLineEdit* pole);
@@ -38,6 +41,10 @@ class PoleKwoty : public QObject {
   // the screen places both and sets the field's width.
   static PoleZKalkulatorem NowePole(const QString& nazwaPola, const QString& nazwaPrzycisku,
                                     const QString& podpowiedzPrzycisku, QWidget* rodzic);
+
+  // The width at which the field shows any amount the program holds (up to 10^12, negative
+  // results of the calculator included) whole.
+  static int Szerokosc(const QLineEdit* pole);
 
   QLineEdit* Pole() const;
   // The amount the field shows, in whole cents (a text out of shape is read as it will be shown).

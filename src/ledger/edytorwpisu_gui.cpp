@@ -39,8 +39,7 @@ RamkaDaty NowaRamkaDaty(const NapisyRamkiDaty& napisy, QWidget* rodzic) {
   const PoleZKalkulatorem kwota =
       PoleKwoty::NowePole(QStringLiteral("txtKwota"), QStringLiteral("cmdKalkulator"),
                           napisy.podpowiedzKalkulatora, ramka);
-  kwota.pole->setFixedWidth(
-      kwota.pole->fontMetrics().horizontalAdvance(QStringLiteral("0000000000000")));
+  kwota.pole->setFixedWidth(PoleKwoty::Szerokosc(kwota.pole));
   kwota.pole->setToolTip(napisy.podpowiedzKwoty);
   lblKwota->setBuddy(kwota.pole);
   auto* uklad = new QHBoxLayout(ramka);

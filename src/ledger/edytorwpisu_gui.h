@@ -14,6 +14,9 @@ class QPushButton;
 class QToolButton;
 class QWidget;
 
+// The length of a description the store holds (opis of entries and transfers).
+constexpr int DlugoscOpisu = 150;
+
 // A date field with a month calendar that drops down, in the edition's date form.
 QDateEdit* NowePoleDaty(const QString& nazwa, const QDate& data, QWidget* rodzic);
 

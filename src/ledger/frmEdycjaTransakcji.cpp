@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "calculator/PoleKwoty_gui.h"
 #include "ledger/edytorwpisu_gui.h"
@@ -34,8 +35,7 @@ QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzi
 
 }  // namespace
 
-frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent)
-    : QDialog(parent), trybFormy_(sesja.pubTryb) {
+frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaTransakcji"));
   sesja.pubEdytorOtwarty = true;
   OtworzBaze();
@@ -67,6 +67,8 @@ frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent)
       // Blanks the save appended to the description are not part of what the user typed.
       QString opis = w->opis;
       while (opis.endsWith(QLatin1Char(' '))) opis.chop(1);
+      // A longer description from before the limit opens whole: nothing is cut unasked.
+      txtOpis_->setMaxLength(std::max(DlugoscOpisu, int(opis.size())));
       txtOpis_->setText(opis);
       sesja.pubTransakcja.rodzaj = w->rodzaj;
       sesja.pubKontrahent.id = w->kontrahent;
@@ -109,6 +111,7 @@ void frmEdycjaTransakcji::zbuduj() {
   lblOpis->setObjectName(QStringLiteral("lblOpis"));
   txtOpis_ = new QLineEdit(this);
   txtOpis_->setObjectName(QStringLiteral("txtOpis"));
+  txtOpis_->setMaxLength(DlugoscOpisu);
   txtOpis_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji7")));
   lblOpis->setBuddy(txtOpis_);
   auto* opis = new QHBoxLayout;
@@ -272,8 +275,7 @@ void frmEdycjaTransakcji::cmdOk_Click() {
       reject();
       break;
     case WynikEdycji::Zostan:
-      // The form stays as the user left it; OK then means the mode the form was opened in.
-      sesja.pubTryb = trybFormy_;
+      // The form stays as the user left it, in its mode: after "realise" the next OK realises.
       txtKwota_->setFocus();
       break;
   }

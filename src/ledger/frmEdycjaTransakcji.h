@@ -52,5 +52,4 @@ class frmEdycjaTransakcji : public QDialog {
   QToolButton* cmdKalkulator_ = nullptr;
   QPushButton* cmdRealizuj_ = nullptr;
   QPushButton* cmdOk_ = nullptr;
-  int trybFormy_ = 2;  // the mode the form was opened in
 };

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "calculator/PoleKwoty_gui.h"
 #include "ledger/edytorwpisu_gui.h"
@@ -29,8 +30,7 @@ QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzi
 
 }  // namespace
 
-frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent)
-    : QDialog(parent), trybFormy_(sesja.pubTryb) {
+frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaTransakcjiWewnetrznej"));
   zbuduj();
   OtworzBaze();
@@ -53,6 +53,8 @@ frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent)
   } else if (const auto w = CzytajTransfer(sesja.pubTryb, sesja.pubTransfer)) {
     QString opis = w->opis;
     while (opis.endsWith(QLatin1Char(' '))) opis.chop(1);
+    // A longer description from before the limit opens whole: nothing is cut unasked.
+    txtOpis_->setMaxLength(std::max(DlugoscOpisu, int(opis.size())));
     txtOpis_->setText(opis);
     dtpData_->setDate(w->data);
     zKonta_.id = w->zKonta;
@@ -97,6 +99,7 @@ void frmEdycjaTransakcjiWewnetrznej::zbuduj() {
   lblOpis->setObjectName(QStringLiteral("lblOpis"));
   txtOpis_ = new QLineEdit(this);
   txtOpis_->setObjectName(QStringLiteral("txtOpis"));
+  txtOpis_->setMaxLength(DlugoscOpisu);
   txtOpis_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej7")));
   lblOpis->setBuddy(txtOpis_);
   auto* opis = new QHBoxLayout;
@@ -216,8 +219,7 @@ void frmEdycjaTransakcjiWewnetrznej::cmdOK_Click() {
       reject();
       break;
     case WynikEdycji::Zostan:
-      // The form stays as the user left it; OK then means the mode the form was opened in.
-      sesja.pubTryb = trybFormy_;
+      // The form stays as the user left it, in its mode: after "realise" the next OK realises.
       txtKwota_->setFocus();
       break;
   }

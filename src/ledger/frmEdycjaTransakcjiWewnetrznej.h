@@ -48,5 +48,4 @@ class frmEdycjaTransakcjiWewnetrznej : public QDialog {
   QPushButton* cmdRealizuj_ = nullptr;
   QPushButton* cmdOK_ = nullptr;
   KontoRekord zKonta_, naKonto_;
-  int trybFormy_ = 2;
 };

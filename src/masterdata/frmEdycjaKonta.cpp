@@ -105,7 +105,7 @@ frmEdycjaKonta::frmEdycjaKonta(QWidget* parent) : QDialog(parent), id_(sesja.pub
                                 QToolButton*& przycisk) {
     const PoleZKalkulatorem p = PoleKwoty::NowePole(
         nazwa, nazwaPrzycisku, Napis(QStringLiteral("frmEdycjaKonta32")), fraKwoty);
-    p.pole->setFixedWidth(110);
+    p.pole->setFixedWidth(PoleKwoty::Szerokosc(p.pole));
     przycisk = p.kalkulator;
     return p.pole;
   };

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "masterdata/kontrahenci.h"
+#include "masterdata/szerokosci_gui.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/session.h"
@@ -41,7 +42,7 @@ frmEdycjaKontrahenta::frmEdycjaKontrahenta(QWidget* parent)
   nazwa->addWidget(txtNazwaSkrocona_);
   nazwa->addWidget(new QLabel(Napis(QStringLiteral("frmEdycjaKontrahenta3")), fraPodstawowe));
   nazwa->addStretch();
-  txtNazwaSkrocona_->setFixedWidth(txtNazwaSkrocona_->fontMetrics().averageCharWidth() * 22);
+  txtNazwaSkrocona_->setFixedWidth(SzerokoscPolaNazwy(txtNazwaSkrocona_));
   auto* ukladPodstawowe = new QFormLayout(fraPodstawowe);
   ukladPodstawowe->addRow(
       etykieta(Napis(QStringLiteral("frmEdycjaKontrahenta2")), txtNazwaSkrocona_, fraPodstawowe),

@@ -34,10 +34,9 @@ frmLimitDlaKategorii::frmLimitDlaKategorii(QWidget* parent)
   txtLimit_ = new QLineEdit(this);
   txtLimit_->setObjectName(QStringLiteral("txtLimit"));
   txtLimit_->setAlignment(Qt::AlignRight);
-  txtLimit_->setMaxLength(10);
-  txtLimit_->setFixedWidth(120);
   lblLimit->setBuddy(txtLimit_);
   PoleKwoty* kwota = PoleKwoty::Podlacz(txtLimit_);
+  txtLimit_->setFixedWidth(PoleKwoty::Szerokosc(txtLimit_));
   kwota->UstawWartosc(CzytajLimit(identyfikator_, rodzaj_));
   auto* cmdKalkulator = new QToolButton(this);
   cmdKalkulator->setObjectName(QStringLiteral("cmdKalkulator"));

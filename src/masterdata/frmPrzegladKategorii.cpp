@@ -11,10 +11,12 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <vector>
 
 #include "ui/nawigacja_gui.h"
@@ -26,6 +28,7 @@
 #include "ui/wyszukiwanie_gui.h"
 #include "ui/wykresy_gui.h"
 #include "store/MsgBoxModule.h"
+#include "masterdata/szerokosci_gui.h"
 #include "store/baza.h"
 #include "store/filtr.h"
 #include "store/napis.h"
@@ -207,6 +210,10 @@ void frmPrzegladKategorii::zbuduj() {
   new KlawiszePrzegladarki(
       tvwKategorie_, [this] { SkasujKategorie(); }, [this] { cmdWybierz_Click(); });
   tvwKategorie_->setMinimumHeight(260);
+  // A category of the fourth level stands four levels below the root; its name shows whole.
+  tvwKategorie_->setMinimumWidth(SzerokoscKolumnyNazwy(tvwKategorie_, false, 4) +
+                                 tvwKategorie_->verticalScrollBar()->sizeHint().width() +
+                                 2 * tvwKategorie_->frameWidth());
   connect(tvwKategorie_, &QTreeWidget::currentItemChanged, this, [this] { PokazWezel(); });
   connect(tvwKategorie_, &QTreeWidget::itemDoubleClicked, this, [this] { cmdWybierz_Click(); });
   connect(tvwKategorie_, &QTreeWidget::customContextMenuRequested, this,
@@ -294,14 +301,17 @@ void frmPrzegladKategorii::zbuduj() {
   connect(mnuEdytujKategorie_, &QAction::triggered, this, &frmPrzegladKategorii::EdytujKategorie);
   connect(mnuSkasujKategorie_, &QAction::triggered, this, &frmPrzegladKategorii::SkasujKategorie);
 
-  szerokoscWaska_ = 420;
-  setMinimumWidth(380);
+  // The names show whole, and every command of the strip shows, in either edition, also in
+  // the narrow picker.
+  const QMargins m = uklad->contentsMargins();
+  najwezsza_ = std::max(Wymiary.waska, lewa->minimumSize().width() + m.left() + m.right());
+  pasek_ = SzerokoscPaska(pasek) + m.left() + m.right();
+  szerokoscWaska_ = std::max(420, najwezsza_);
 }
 
 QWidget* frmPrzegladKategorii::zbudujSzczegoly() {
   frmSzczegoly_ = new QGroupBox(this);
   frmSzczegoly_->setObjectName(QStringLiteral("frmSzczegoly"));
-  frmSzczegoly_->setFixedWidth(SzerokoscSzczegolow);
   QWidget* s = frmSzczegoly_;
 
   filtr_ = new PrzyciskiFiltra(s, 2);
@@ -362,10 +372,30 @@ QWidget* frmPrzegladKategorii::zbudujSzczegoly() {
   lvwPodkategorie_->setHeaderLabels({Napis(QStringLiteral("frmPrzegladKategorii15")),
                                      Napis(QStringLiteral("frmPrzegladKategorii16")),
                                      Napis(QStringLiteral("frmPrzegladKategorii17"))});
-  lvwPodkategorie_->header()->setStretchLastSection(false);
-  lvwPodkategorie_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  // The name column holds the longest name whole; the amount takes what it needs, the share the
+  // rest.
+  lvwPodkategorie_->header()->setStretchLastSection(true);
+  lvwPodkategorie_->header()->setSectionResizeMode(0, QHeaderView::Fixed);
   lvwPodkategorie_->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-  lvwPodkategorie_->header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
+  lvwPodkategorie_->header()->setSectionResizeMode(2, QHeaderView::Stretch);
+  lvwPodkategorie_->setIconSize(QSize(12, 12));
+  const int kolumnaNazwy = SzerokoscKolumnyNazwy(lvwPodkategorie_, true);
+  lvwPodkategorie_->header()->resizeSection(0, kolumnaNazwy);
+  {
+    // Room beside the names for an amount of millions and a share, and the scroll bar.
+    const QFontMetrics fm = lvwPodkategorie_->fontMetrics();
+    const int margines =
+        2 * (lvwPodkategorie_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 8;
+    const int kwota =
+        std::max(fm.horizontalAdvance(FormatKwoty(9999999.99)),
+                 fm.horizontalAdvance(Napis(QStringLiteral("frmPrzegladKategorii16"))));
+    const int udzial =
+        std::max(fm.horizontalAdvance(QStringLiteral("100.00")),
+                 fm.horizontalAdvance(Napis(QStringLiteral("frmPrzegladKategorii17"))));
+    lvwPodkategorie_->setMinimumWidth(kolumnaNazwy + kwota + udzial + 2 * margines +
+                                      lvwPodkategorie_->verticalScrollBar()->sizeHint().width() +
+                                      2 * lvwPodkategorie_->frameWidth());
+  }
   lvwPodkategorie_->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
   lvwPodkategorie_->headerItem()->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
   mscWykres_ = NowyWykres(QStringLiteral("mscWykres"), fraPodkategorie_);
@@ -417,6 +447,9 @@ QWidget* frmPrzegladKategorii::zbudujSzczegoly() {
   uklad->addLayout(razem);
   uklad->addStretch();
   uklad->addLayout(polecenia);
+  // As wide as the breakdown with its chart beside it needs.
+  panel_ = std::max(SzerokoscSzczegolow, uklad->minimumSize().width());
+  frmSzczegoly_->setFixedWidth(panel_);
   return s;
 }
 
@@ -536,10 +569,17 @@ void frmPrzegladKategorii::pokazSzczegoly(QTreeWidgetItem* item, const QString& 
   lblRazem_->setText(FormatKwoty(r.razem));
 }
 
+WymiarySzczegolow frmPrzegladKategorii::wymiary() const {
+  // Open, the details widen the window under the strip; closed, the list alone must hold it.
+  const int panel = panel_;
+  const int waska = std::max(najwezsza_, sesja.pubSzczegoly == 1 ? pasek_ - panel : pasek_);
+  return {waska, panel_, Wymiary.wysokosc};
+}
+
 void frmPrzegladKategorii::ustawSzczegoly() {
   PokazSzczegolyPrzegladarki(
       this, frmSzczegoly_, cmdSzczegoly_, Napis(QStringLiteral("frmPrzegladKategorii51")),
-      Napis(QStringLiteral("frmPrzegladKategorii52")), Wymiary, szerokoscWaska_);
+      Napis(QStringLiteral("frmPrzegladKategorii52")), wymiary(), szerokoscWaska_);
 }
 
 void frmPrzegladKategorii::ustawPolecenia() {
@@ -688,7 +728,7 @@ void frmPrzegladKategorii::cmdZmienLimit_Click() {
 }
 
 void frmPrzegladKategorii::cmdSzczegoly_Click() {
-  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, Wymiary);
+  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, wymiary());
   ustawSzczegoly();
   PokazWezel();
 }

@@ -20,6 +20,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class PrzyciskiFiltra;
 class WyszukiwanieGui;
+struct WymiarySzczegolow;
 
 class frmPrzegladKategorii : public QDialog {
   Q_OBJECT
@@ -55,6 +56,8 @@ class frmPrzegladKategorii : public QDialog {
   void zbuduj();
   QWidget* zbudujSzczegoly();
   void ustawSzczegoly();
+  // The window's sizes with the details open and closed.
+  WymiarySzczegolow wymiary() const;
   void ustawPolecenia();  // captions and states of the context menu for the selected node
   void menuKontekstowe(const QPoint& gdzie);
   void pokazSzczegoly(QTreeWidgetItem* item, const QString& k);
@@ -69,6 +72,9 @@ class frmPrzegladKategorii : public QDialog {
   int rodzaj_ = 2;
   KategoriaRekord kopia_;  // pubKategoria as it was at load, for cmdAnuluj
   int szerokoscWaska_ = 0;
+  int najwezsza_ = 0;  // the narrowest list part that shows the names whole
+  int pasek_ = 0;      // the width that shows every command of the strip
+  int panel_ = 0;      // the width of the details
 
   QTreeWidget* tvwKategorie_ = nullptr;
   QLineEdit* txtKlucz_ = nullptr;

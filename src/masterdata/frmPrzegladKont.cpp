@@ -10,10 +10,12 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/konta.h"
@@ -23,6 +25,7 @@
 #include "ui/wyszukiwanie_gui.h"
 #include "ui/wykresy_gui.h"
 #include "store/MsgBoxModule.h"
+#include "masterdata/szerokosci_gui.h"
 #include "store/baza.h"
 #include "store/filtr.h"
 #include "store/napis.h"
@@ -163,6 +166,10 @@ void frmPrzegladKont::zbuduj() {
   new KlawiszePrzegladarki(
       tvwKonta_, [this] { SkasujKonto(); }, [this] { cmdWybierz_Click(); });
   tvwKonta_->setMinimumHeight(240);
+  // An account stands two levels below the root; its longest name shows whole.
+  tvwKonta_->setMinimumWidth(SzerokoscKolumnyNazwy(tvwKonta_, false, 2) +
+                             tvwKonta_->verticalScrollBar()->sizeHint().width() +
+                             2 * tvwKonta_->frameWidth());
   connect(tvwKonta_, &QTreeWidget::currentItemChanged, this, [this] { PokazWezel(); });
   connect(tvwKonta_, &QTreeWidget::itemDoubleClicked, this, [this] { cmdWybierz_Click(); });
   connect(tvwKonta_, &QTreeWidget::customContextMenuRequested, this,
@@ -344,8 +351,12 @@ void frmPrzegladKont::zbuduj() {
   connect(mnuEdytujKonto_, &QAction::triggered, this, &frmPrzegladKont::EdytujKonto);
   connect(mnuSkasujKonto_, &QAction::triggered, this, &frmPrzegladKont::SkasujKonto);
 
-  szerokoscWaska_ = 400;
-  setMinimumWidth(360);
+  // The names show whole, and every command of the strip shows, in either edition, also in
+  // the narrow picker.
+  const QMargins m = uklad->contentsMargins();
+  najwezsza_ = std::max(Wymiary.waska, lewa->minimumSize().width() + m.left() + m.right());
+  pasek_ = SzerokoscPaska(pasek) + m.left() + m.right();
+  szerokoscWaska_ = std::max(400, najwezsza_);
 }
 
 QTreeWidgetItem* frmPrzegladKont::wybrany() const { return tvwKonta_->currentItem(); }
@@ -430,7 +441,6 @@ void frmPrzegladKont::PokazWezel() {
 
   if (!szczegoly) return;
   frmSzczegoly_->setTitle(Napis(QStringLiteral("frmPrzegladKont62")) + QLatin1Char(' '));
-  lblKiedy_->setText(sesja.pubOkres.opis);
   lblOkres_->setText(sesja.pubOkres.opisDlugi);
   const BilansOkresu& b = stan.bilans;
   lblBO_->setText(FormatKwoty(b.bilansOtwarcia));
@@ -446,10 +456,17 @@ void frmPrzegladKont::PokazWezel() {
   WykresDwaSlupki(chartObroty_, b.wOkresie.przychod, b.wOkresie.wydatek);
 }
 
+WymiarySzczegolow frmPrzegladKont::wymiary() const {
+  // Open, the details widen the window under the strip; closed, the list alone must hold it.
+  const int panel = Wymiary.panel;
+  const int waska = std::max(najwezsza_, sesja.pubSzczegoly == 1 ? pasek_ - panel : pasek_);
+  return {waska, Wymiary.panel, Wymiary.wysokosc};
+}
+
 void frmPrzegladKont::ustawSzczegoly() {
-  PokazSzczegolyPrzegladarki(this, frmSzczegoly_, cmdSzczegoly_,
-                             Napis(QStringLiteral("frmPrzegladKont69")),
-                             Napis(QStringLiteral("frmPrzegladKont70")), Wymiary, szerokoscWaska_);
+  PokazSzczegolyPrzegladarki(
+      this, frmSzczegoly_, cmdSzczegoly_, Napis(QStringLiteral("frmPrzegladKont69")),
+      Napis(QStringLiteral("frmPrzegladKont70")), wymiary(), szerokoscWaska_);
 }
 
 // ---- commands --------------------------------------------------------------------------------
@@ -527,7 +544,7 @@ void frmPrzegladKont::SkasujKonto() {
 }
 
 void frmPrzegladKont::cmdSzczegoly_Click() {
-  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, Wymiary);
+  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, wymiary());
   ustawSzczegoly();
   PokazWezel();
 }

@@ -17,6 +17,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class PrzyciskiFiltra;
 class WyszukiwanieGui;
+struct WymiarySzczegolow;
 
 #include "store/session.h"
 
@@ -52,6 +53,8 @@ class frmPrzegladKont : public QDialog {
   // The refill, selecting the node of klucz if it is there (else as WypelnijDrzewo does).
   void wypelnij(const QString& klucz);
   void ustawSzczegoly();
+  // The window's sizes with the details open and closed.
+  WymiarySzczegolow wymiary() const;
   void menuKontekstowe(const QPoint& gdzie);
   QTreeWidgetItem* wybrany() const;
   QString klucz(QTreeWidgetItem* w) const;
@@ -97,4 +100,6 @@ class frmPrzegladKont : public QDialog {
 
   KontoRekord kopia_;  // pubKonto as it was at load, for cmdAnuluj
   int szerokoscWaska_ = 0;
+  int najwezsza_ = 0;  // the narrowest list part that shows the names whole
+  int pasek_ = 0;      // the width that shows every command of the strip
 };

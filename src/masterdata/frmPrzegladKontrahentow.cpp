@@ -9,10 +9,12 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/nawigacja_gui.h"
 #include "masterdata/frmEdycjaKontrahenta.h"
@@ -20,6 +22,7 @@
 #include "ui/przegladarka_gui.h"
 #include "ui/przyciskifiltra_gui.h"
 #include "ui/wyszukiwanie_gui.h"
+#include "masterdata/szerokosci_gui.h"
 #include "store/baza.h"
 #include "store/filtr.h"
 #include "store/napis.h"
@@ -146,7 +149,12 @@ void frmPrzegladKontrahentow::zbuduj() {
                           {Napis(QStringLiteral("frmPrzegladKontrahentow5")),
                            Napis(QStringLiteral("frmPrzegladKontrahentow6"))},
                           this);
-  lvwKontrahenci_->setColumnWidth(0, 150);
+  // The longest short name shows whole; the description gets the rest.
+  const int kolumnaNazwy = SzerokoscKolumnyNazwy(lvwKontrahenci_, false);
+  lvwKontrahenci_->setColumnWidth(0, kolumnaNazwy);
+  lvwKontrahenci_->setMinimumWidth(
+      kolumnaNazwy + lvwKontrahenci_->fontMetrics().horizontalAdvance(QLatin1Char('x')) * 12 +
+      lvwKontrahenci_->verticalScrollBar()->sizeHint().width() + 2 * lvwKontrahenci_->frameWidth());
   lvwKontrahenci_->setContextMenuPolicy(Qt::CustomContextMenu);
   new KlawiszePrzegladarki(
       lvwKontrahenci_, [this] { SkasujKontrahenta(); }, [this] { cmdWybierz_Click(); });
@@ -208,7 +216,12 @@ void frmPrzegladKontrahentow::zbuduj() {
           &frmPrzegladKontrahentow::EdytujKontrahenta);
   connect(mnuSkasujKontrahenta_, &QAction::triggered, this,
           &frmPrzegladKontrahentow::SkasujKontrahenta);
-  setMinimumWidth(340);
+  // The names show whole, and every command of the strip shows, in either edition, also in
+  // the narrow picker.
+  const QMargins m = uklad->contentsMargins();
+  najwezsza_ = std::max(Wymiary.waska, lewa->minimumSize().width() + m.left() + m.right());
+  pasek_ = SzerokoscPaska(pasek) + m.left() + m.right();
+  szerokoscWaska_ = std::max(szerokoscWaska_, najwezsza_);
 }
 
 QWidget* frmPrzegladKontrahentow::zbudujDokonane() {
@@ -448,10 +461,17 @@ void frmPrzegladKontrahentow::OdswiezZaplanowane() {
   lblSumaZaleglychWydatkow_->setText(LiczbaBezMaski(p.zalegleWydatki));
 }
 
+WymiarySzczegolow frmPrzegladKontrahentow::wymiary() const {
+  // Open, the details widen the window under the strip; closed, the list alone must hold it.
+  const int panel = Wymiary.panel;
+  const int waska = std::max(najwezsza_, sesja.pubSzczegoly == 1 ? pasek_ - panel : pasek_);
+  return {waska, Wymiary.panel, Wymiary.wysokosc};
+}
+
 void frmPrzegladKontrahentow::ustawSzczegoly() {
   PokazSzczegolyPrzegladarki(
       this, szczegoly_, cmdSzczegoly_, Napis(QStringLiteral("frmPrzegladKontrahentow68")),
-      Napis(QStringLiteral("frmPrzegladKontrahentow69")), Wymiary, szerokoscWaska_);
+      Napis(QStringLiteral("frmPrzegladKontrahentow69")), wymiary(), szerokoscWaska_);
 }
 
 // ---- commands on counterparties --------------------------------------------------------------
@@ -503,7 +523,7 @@ void frmPrzegladKontrahentow::SkasujKontrahenta() {
 }
 
 void frmPrzegladKontrahentow::cmdSzczegoly_Click() {
-  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, Wymiary);
+  szerokoscWaska_ = PrzelaczSzczegolyPrzegladarki(this, wymiary());
   ustawSzczegoly();
   PokazKontrahenta();
 }

@@ -22,6 +22,7 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class PrzyciskiFiltra;
 class WyszukiwanieGui;
+struct WymiarySzczegolow;
 
 class frmPrzegladKontrahentow : public QDialog {
   Q_OBJECT
@@ -61,6 +62,8 @@ class frmPrzegladKontrahentow : public QDialog {
   QWidget* zbudujDokonane();
   QWidget* zbudujZaplanowane();
   void ustawSzczegoly();
+  // The window's sizes with the details open and closed.
+  WymiarySzczegolow wymiary() const;
   void menuKontekstowe(const QPoint& gdzie);
   QTreeWidgetItem* wybrany() const;
   QTreeWidgetItem* wybranaZaplanowana() const;
@@ -108,4 +111,6 @@ class frmPrzegladKontrahentow : public QDialog {
 
   KontrahentRekord kopia_;  // pubKontrahent as it was at load, for cmdAnuluj
   int szerokoscWaska_ = 400;
+  int najwezsza_ = 0;  // the narrowest list part that shows the names whole
+  int pasek_ = 0;      // the width that shows every command of the strip
 };

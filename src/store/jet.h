@@ -6,10 +6,12 @@
 
 struct sqlite3;
 
-// Turns one Jet statement into SQLite text: #mm/dd/yyyy# dates, LIKE wildcards, TOP n,
-// LEFT/MID/LEN, quoted numbers with a decimal comma, ALTER TABLE ... BYTE, the column "limit".
+// Turns one Jet statement into SQLite text: #mm/dd/yyyy# dates, LIKE wildcards, TOP n with its
+// ties, LEFT/MID/LEN, quoted numbers with a decimal comma, ALTER TABLE ... BYTE, the column
+// "limit", names compared and sorted in the Polish order. Text inside quotes never changes.
 QString TlumaczJet(const QString& jet);
 
 // Registers MONTH, YEAR, DAY, DATEPART, MID, LEN, JETLEFT, JETNOW, JETDATE, IIF, NZ, INT, the
-// exact sum SUMA and a LIKE blind to case in every alphabet on a connection.
+// exact sum SUMA, a LIKE blind to case in every alphabet and the Polish order PL on a
+// connection.
 void ZarejestrujFunkcjeJet(sqlite3* db);

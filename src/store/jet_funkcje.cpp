@@ -15,6 +15,7 @@
 
 #include "store/dzis.h"
 #include "store/jet.h"
+#include "store/porzadek.h"
 
 namespace {
 
@@ -234,6 +235,7 @@ char32_t nastepny(const unsigned char* t, int n, int& i) {
 
 char32_t zloz(char32_t c) {
   if (c < 0x80) return c >= 'A' && c <= 'Z' ? c + 32 : c;
+  if (c > 0x10FFFF) return c;  // a broken sequence: no character to fold
   return QChar::toCaseFolded(c);
 }
 
@@ -319,14 +321,71 @@ void fnLike(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
 
 // ---- the exact sum of money -----------------------------------------------------------------
 
+// Cents are summed in 128 bits: 100 000 rows of a trillion already pass 64 bits. A single
+// amount may reach 2^126 cents, and a sum that would leave 128 bits is an error, as is an
+// amount that is no finite number: never a wrong sum.
+using Grosze = __int128;
+
+const long double kNajwiecejGroszy = std::ldexp(1.0L, 126);
+
 // Whole cents of an amount, half away from zero on its decimal form: 1.005 (held as
-// 1.00499999...) gives 101, as the rounding of the amounts themselves does.
-qint64 naGrosze(double v) {
-  if (!std::isfinite(v)) return 0;
+// 1.00499999...) gives 101, as the rounding of the amounts themselves does. This is every
+// amount a user types; false for the rest.
+inline bool groszeMale(double v, qint64& g) {
+  if (!(std::fabs(v) < 9e13)) return false;
   const double a = std::fabs(v) * 100.0;
   const double calosc = std::floor(a);
-  const qint64 g = qint64(calosc) + (a - calosc >= 0.5 - 5e-5 ? 1 : 0);
-  return v < 0 ? -g : g;
+  const qint64 c = qint64(calosc) + (a - calosc >= 0.5 - 5e-5 ? 1 : 0);
+  g = v < 0 ? -c : c;
+  return true;
+}
+
+// The same for any amount. Past 2^53 cents every double is a whole number of cents, and 64
+// bits of mantissa hold it times 100 exactly. False when it is out of range or no number.
+bool naGrosze(double v, Grosze& g) {
+  qint64 maly;
+  if (groszeMale(v, maly)) {
+    g = maly;
+    return true;
+  }
+  if (!std::isfinite(v)) return false;
+  const long double a = std::fabs(static_cast<long double>(v)) * 100.0L;
+  if (a >= kNajwiecejGroszy) return false;
+  const long double calosc = std::floor(a);
+  const Grosze c = Grosze(calosc) + (a - calosc >= 0.5L - 5e-5L ? 1 : 0);
+  g = v < 0 ? -c : c;
+  return true;
+}
+
+enum class Odczyt { Liczba, NieLiczba, PozaZakresem };
+
+// The cents of a plain decimal text ("-12,505", " 7 ") read digit by digit, so that no digit
+// is lost to a double; anything else is no plain decimal.
+Odczyt groszeZTekstu(const unsigned char* t, int n, Grosze& g) {
+  const auto cyfra = [](unsigned char c) { return c >= '0' && c <= '9'; };
+  int i = 0;
+  while (i < n && t[i] == ' ') ++i;
+  bool minus = false;
+  if (i < n && (t[i] == '+' || t[i] == '-')) minus = t[i++] == '-';
+  Grosze calosc = 0;
+  int cyfry = 0;
+  bool zaDuzo = false;
+  for (; i < n && cyfra(t[i]); ++i, ++cyfry) {
+    if (calosc >= Grosze(1000000000000000000LL) * Grosze(100000000000000000LL)) zaDuzo = true;
+    if (!zaDuzo) calosc = calosc * 10 + (t[i] - '0');
+  }
+  int ulamek[3] = {0, 0, 0};
+  if (i < n && (t[i] == '.' || t[i] == ',')) {
+    for (int j = ++i; i < n && cyfra(t[i]); ++i, ++cyfry)
+      if (i - j < 3) ulamek[i - j] = t[i] - '0';
+  }
+  while (i < n && t[i] == ' ') ++i;
+  if (i != n || cyfry == 0) return Odczyt::NieLiczba;
+  if (zaDuzo) return Odczyt::PozaZakresem;
+  const Grosze c = calosc * 100 + ulamek[0] * 10 + ulamek[1] + (ulamek[2] >= 5 ? 1 : 0);
+  if (static_cast<long double>(c) >= kNajwiecejGroszy) return Odczyt::PozaZakresem;
+  g = minus ? -c : c;
+  return Odczyt::Liczba;
 }
 
 double liczbaZTekstu(const unsigned char* t, int n) {
@@ -344,37 +403,99 @@ double liczbaZTekstu(const unsigned char* t, int n) {
   return x;
 }
 
+// Rows add up in 64 bits, and what would overflow them moves to 128 bits. The state lives in
+// memory SQLite gives with 8-byte alignment: the 128-bit part is copied in and out rather than
+// read in place.
 struct StanSumy {
   qint64 grosze;
+  unsigned char reszta[sizeof(Grosze)];
   qint64 wiersze;
+  bool blad;
 };
+
+bool dodajDoReszty(StanSumy& s, Grosze g) {
+  Grosze r;
+  std::memcpy(&r, s.reszta, sizeof r);
+  if (__builtin_add_overflow(r, g, &r)) return false;
+  std::memcpy(s.reszta, &r, sizeof r);
+  return true;
+}
 
 void sumaKrok(sqlite3_context* ctx, int, sqlite3_value** argv) {
   auto* s = static_cast<StanSumy*>(sqlite3_aggregate_context(ctx, sizeof(StanSumy)));
-  if (!s) return;
+  if (!s || s->blad) return;
+  Grosze g = 0;
+  bool ok = true;
   switch (sqlite3_value_type(argv[0])) {
     case SQLITE_NULL:
       return;
     case SQLITE_INTEGER:
-      s->grosze += sqlite3_value_int64(argv[0]) * 100;
+      g = Grosze(sqlite3_value_int64(argv[0])) * 100;
       break;
-    case SQLITE_FLOAT:
-      s->grosze += naGrosze(sqlite3_value_double(argv[0]));
-      break;
-    default: {
-      const auto* t = sqlite3_value_text(argv[0]);
-      s->grosze += naGrosze(liczbaZTekstu(t, sqlite3_value_bytes(argv[0])));
+    case SQLITE_FLOAT: {
+      // The common case stays in 64 bits.
+      const double v = sqlite3_value_double(argv[0]);
+      qint64 maly, nowa;
+      if (groszeMale(v, maly) && !__builtin_add_overflow(s->grosze, maly, &nowa)) {
+        s->grosze = nowa;
+        ++s->wiersze;
+        return;
+      }
+      ok = naGrosze(v, g);
       break;
     }
+    default: {
+      const auto* t = sqlite3_value_text(argv[0]);
+      const int n = sqlite3_value_bytes(argv[0]);
+      switch (groszeZTekstu(t, n, g)) {
+        case Odczyt::Liczba:
+          break;
+        case Odczyt::PozaZakresem:
+          ok = false;
+          break;
+        case Odczyt::NieLiczba:
+          ok = naGrosze(liczbaZTekstu(t, n), g);
+          break;
+      }
+    }
+  }
+  const qint64 maly = qint64(g);
+  qint64 nowa;
+  if (ok && maly == g && !__builtin_add_overflow(s->grosze, maly, &nowa))
+    s->grosze = nowa;
+  else if (ok)
+    ok = dodajDoReszty(*s, g);
+  if (!ok) {
+    s->blad = true;
+    return;
   }
   ++s->wiersze;
 }
 
-// NULL without rows, as SUM gives.
+// NULL without rows, as SUM gives; the double nearest the exact sum.
 void sumaKoniec(sqlite3_context* ctx) {
   auto* s = static_cast<StanSumy*>(sqlite3_aggregate_context(ctx, 0));
+  if (s && s->blad) return sqlite3_result_error(ctx, "SUM: amount out of range", -1);
   if (!s || s->wiersze == 0) return sqlite3_result_null(ctx);
-  sqlite3_result_double(ctx, double(s->grosze) / 100.0);
+  if (!dodajDoReszty(*s, s->grosze))
+    return sqlite3_result_error(ctx, "SUM: amount out of range", -1);
+  Grosze g;
+  std::memcpy(&g, s->reszta, sizeof g);
+  constexpr Grosze kDokladnie = Grosze(1) << 53;
+  if (g > -kDokladnie && g < kDokladnie)
+    return sqlite3_result_double(ctx, double(qint64(g)) / 100.0);
+  // Written out in decimal and read back: one rounding, to the nearest double.
+  char cyfry[48];
+  int n = 0;
+  for (Grosze r = g < 0 ? -g : g; r > 0 || n < 3; r /= 10) {
+    cyfry[n++] = char('0' + int(r % 10));
+    if (n == 2) cyfry[n++] = '.';
+  }
+  if (g < 0) cyfry[n++] = '-';
+  std::reverse(cyfry, cyfry + n);
+  double x = 0;
+  std::from_chars(cyfry, cyfry + n, x);
+  sqlite3_result_double(ctx, x);
 }
 
 // ---- small Jet helpers ----------------------------------------------------------------------
@@ -405,6 +526,11 @@ void fnInt(sqlite3_context* ctx, int, sqlite3_value** argv) {
   }
 }
 
+int porownajPolsko(void*, int na, const void* a, int nb, const void* b) {
+  return PorownajPolskoUtf8(static_cast<const unsigned char*>(a), na,
+                            static_cast<const unsigned char*>(b), nb);
+}
+
 using Funkcja = void (*)(sqlite3_context*, int, sqlite3_value**);
 
 void zarejestruj(sqlite3* db, const char* nazwa, int argumenty, Funkcja f, bool stala = true,
@@ -433,6 +559,7 @@ void ZarejestrujFunkcjeJet(sqlite3* db) {
   zarejestruj(db, "NZ", 1, fnNz);
   zarejestruj(db, "NZ", 2, fnNz);
   zarejestruj(db, "INT", 1, fnInt);
+  sqlite3_create_collation_v2(db, NazwaPorzadku, SQLITE_UTF8, nullptr, porownajPolsko, nullptr);
   sqlite3_create_function_v2(db, "SUMA", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, nullptr,
                              sumaKrok, sumaKoniec, nullptr);
 }

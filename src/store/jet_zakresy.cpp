@@ -3,9 +3,16 @@
 #include <QDate>
 #include <QRegularExpression>
 
+#include "store/jet_tokeny.h"
+
 namespace {
 
-QString lit(const QDate& d) { return d.toString(QStringLiteral("#MM/dd/yyyy#")); }
+QString lit(const QDate& d) {
+  return QStringLiteral("#%1/%2/%3#")
+      .arg(d.month(), 2, 10, QLatin1Char('0'))
+      .arg(d.day(), 2, 10, QLatin1Char('0'))
+      .arg(d.year(), 4, 10, QLatin1Char('0'));
+}
 
 // The first day of each week of year y, counted Monday first with week 1 holding 1 January.
 // Week w covers [start, start + 7) cut to the year.
@@ -28,32 +35,68 @@ QString przed(const QString& kol, const QDate& granica) {
 
 bool rokOk(int y) { return y >= 100 && y < 9999; }
 
+// True when the text holds the word (ASCII, upper case), in any case.
+bool zawiera(QStringView t, QLatin1StringView slowo) {
+  const qsizetype n = slowo.size();
+  for (qsizetype i = 0; i + n <= t.size(); ++i) {
+    qsizetype j = 0;
+    while (j < n && (t[i + j].unicode() & ~char16_t(0x20)) == char16_t(slowo[j].unicode())) ++j;
+    if (j == n) return true;
+  }
+  return false;
+}
+
+// The statement and a copy of it in which every quoted text, date and [name] is blotted out
+// (but for the 'ww' and 'q' of DATEPART), so that no pattern can match inside one. Both are
+// changed at the same places, and what a pattern captures lies outside the blots.
+struct Tekst {
+  QString jet;
+  QString maska;
+};
+
+Tekst zamaskuj(const QString& jet) {
+  Tekst t{jet, jet};
+  constexpr QChar kPlama(0x1);
+  LiteralyJet(jet, [&](Rodzaj rodzaj, int od, int dl) {
+    const QStringView tresc = QStringView(jet).sliced(od, dl);
+    if (rodzaj == Rodzaj::Tekst &&
+        (tresc.compare(QLatin1String("'ww'"), Qt::CaseInsensitive) == 0 ||
+         tresc.compare(QLatin1String("'q'"), Qt::CaseInsensitive) == 0))
+      return;
+    for (int i = od; i < od + dl; ++i) t.maska[i] = kPlama;
+  });
+  return t;
+}
+
 // Applies one pattern throughout the text; zamiana returns "" to leave a match as it stands.
 template <typename F>
-QString zastap(const QString& tekst, const QRegularExpression& re, F zamiana) {
-  QString wynik;
+void zastap(Tekst& t, const QRegularExpression& re, F zamiana) {
+  QString jet, maska;
   qsizetype poz = 0;
-  auto it = re.globalMatch(tekst);
+  auto it = re.globalMatch(t.maska);
   while (it.hasNext()) {
     const auto m = it.next();
     const QString nowy = zamiana(m);
     if (nowy.isEmpty()) continue;
-    wynik += QStringView(tekst).mid(poz, m.capturedStart() - poz);
-    wynik += nowy;
+    jet += QStringView(t.jet).mid(poz, m.capturedStart() - poz);
+    maska += QStringView(t.maska).mid(poz, m.capturedStart() - poz);
+    jet += nowy;
+    maska += nowy;
     poz = m.capturedEnd();
   }
-  if (poz == 0) return tekst;
-  wynik += QStringView(tekst).mid(poz);
-  return wynik;
+  if (poz == 0) return;
+  jet += QStringView(t.jet).mid(poz);
+  maska += QStringView(t.maska).mid(poz);
+  t = {std::move(jet), std::move(maska)};
 }
 
 }  // namespace
 
 QString ZakresyDat(const QString& jet) {
-  if (!jet.contains(QLatin1String("(data)"), Qt::CaseInsensitive) &&
-      !jet.contains(QLatin1String(".data)"), Qt::CaseInsensitive) &&
-      !jet.contains(QLatin1String(",data"), Qt::CaseInsensitive))
-    return jet;
+  // Every form holds YEAR(... data); most statements have none and are done here.
+  if (!zawiera(jet, QLatin1StringView("YEAR"))) return jet;
+  const bool tygodnieKwartaly = zawiera(jet, QLatin1StringView("DATEPART"));
+  const bool miesiace = zawiera(jet, QLatin1StringView("MONTH"));
   static const QString K = QStringLiteral("((?:\\w+\\.)?data)");
   static const auto opt = QRegularExpression::CaseInsensitiveOption;
   auto re = [](const QString& wzor) { return QRegularExpression(wzor, opt); };
@@ -90,52 +133,58 @@ QString ZakresyDat(const QString& jet) {
   static const QRegularExpression rokPrzed =
       re(QStringLiteral("YEAR\\s*\\(\\s*%1\\s*\\)\\s*<\\s*(\\d+)(?=\\s|\\)|$)").arg(K));
 
-  QString t = jet;
-  t = zastap(t, tydzien, [](const QRegularExpressionMatch& m) {
-    const int w = m.captured(2).toInt(), y = m.captured(3).toInt();
-    if (!rokOk(y) || w > 60) return QString();
-    const QDate od = maks(poczatekTygodnia(w, y), QDate(y, 1, 1));
-    const QDate doWyl = min(poczatekTygodnia(w, y).addDays(7), QDate(y + 1, 1, 1));
-    return wZakresie(m.captured(1), od, doWyl);
-  });
-  t = zastap(t, tydzienPrzed, [](const QRegularExpressionMatch& m) {
-    const int w = m.captured(2).toInt(), y = m.captured(3).toInt();
-    if (!rokOk(y) || y != m.captured(4).toInt() || w > 60) return QString();
-    const QDate granica = min(maks(poczatekTygodnia(w, y), QDate(y, 1, 1)), QDate(y + 1, 1, 1));
-    return przed(m.captured(1), granica);
-  });
-  t = zastap(t, miesiac, [](const QRegularExpressionMatch& m) {
-    const int mc = m.captured(2).toInt(), y = m.captured(3).toInt();
-    if (!rokOk(y)) return QString();
-    if (mc < 1 || mc > 12) return QStringLiteral("(1=0)");
-    return wZakresie(m.captured(1), QDate(y, mc, 1), QDate(y, mc, 1).addMonths(1));
-  });
-  t = zastap(t, miesiacPrzed, [](const QRegularExpressionMatch& m) {
-    const int mc = m.captured(2).toInt(), y = m.captured(3).toInt();
-    if (!rokOk(y) || y != m.captured(4).toInt()) return QString();
-    return przed(m.captured(1), QDate(y, 1, 1).addMonths(std::clamp(mc, 1, 13) - 1));
-  });
-  t = zastap(t, kwartal, [](const QRegularExpressionMatch& m) {
-    const int q = m.captured(2).toInt(), y = m.captured(3).toInt();
-    if (!rokOk(y)) return QString();
-    if (q < 1 || q > 4) return QStringLiteral("(1=0)");
-    const QDate od(y, 3 * q - 2, 1);
-    return wZakresie(m.captured(1), od, od.addMonths(3));
-  });
-  t = zastap(t, kwartalPrzed, [](const QRegularExpressionMatch& m) {
-    const int q = m.captured(2).toInt(), y = m.captured(3).toInt();
-    if (!rokOk(y) || y != m.captured(4).toInt()) return QString();
-    return przed(m.captured(1), QDate(y, 1, 1).addMonths(3 * (std::clamp(q, 1, 5) - 1)));
-  });
-  t = zastap(t, rok, [](const QRegularExpressionMatch& m) {
+  Tekst t = zamaskuj(jet);
+  if (tygodnieKwartaly)
+    zastap(t, tydzien, [](const QRegularExpressionMatch& m) {
+      const int w = m.captured(2).toInt(), y = m.captured(3).toInt();
+      if (!rokOk(y) || w > 60) return QString();
+      const QDate od = maks(poczatekTygodnia(w, y), QDate(y, 1, 1));
+      const QDate doWyl = min(poczatekTygodnia(w, y).addDays(7), QDate(y + 1, 1, 1));
+      return wZakresie(m.captured(1), od, doWyl);
+    });
+  if (tygodnieKwartaly)
+    zastap(t, tydzienPrzed, [](const QRegularExpressionMatch& m) {
+      const int w = m.captured(2).toInt(), y = m.captured(3).toInt();
+      if (!rokOk(y) || y != m.captured(4).toInt() || w > 60) return QString();
+      const QDate granica = min(maks(poczatekTygodnia(w, y), QDate(y, 1, 1)), QDate(y + 1, 1, 1));
+      return przed(m.captured(1), granica);
+    });
+  if (miesiace)
+    zastap(t, miesiac, [](const QRegularExpressionMatch& m) {
+      const int mc = m.captured(2).toInt(), y = m.captured(3).toInt();
+      if (!rokOk(y)) return QString();
+      if (mc < 1 || mc > 12) return QStringLiteral("(1=0)");
+      return wZakresie(m.captured(1), QDate(y, mc, 1), QDate(y, mc, 1).addMonths(1));
+    });
+  if (miesiace)
+    zastap(t, miesiacPrzed, [](const QRegularExpressionMatch& m) {
+      const int mc = m.captured(2).toInt(), y = m.captured(3).toInt();
+      if (!rokOk(y) || y != m.captured(4).toInt()) return QString();
+      return przed(m.captured(1), QDate(y, 1, 1).addMonths(std::clamp(mc, 1, 13) - 1));
+    });
+  if (tygodnieKwartaly)
+    zastap(t, kwartal, [](const QRegularExpressionMatch& m) {
+      const int q = m.captured(2).toInt(), y = m.captured(3).toInt();
+      if (!rokOk(y)) return QString();
+      if (q < 1 || q > 4) return QStringLiteral("(1=0)");
+      const QDate od(y, 3 * q - 2, 1);
+      return wZakresie(m.captured(1), od, od.addMonths(3));
+    });
+  if (tygodnieKwartaly)
+    zastap(t, kwartalPrzed, [](const QRegularExpressionMatch& m) {
+      const int q = m.captured(2).toInt(), y = m.captured(3).toInt();
+      if (!rokOk(y) || y != m.captured(4).toInt()) return QString();
+      return przed(m.captured(1), QDate(y, 1, 1).addMonths(3 * (std::clamp(q, 1, 5) - 1)));
+    });
+  zastap(t, rok, [](const QRegularExpressionMatch& m) {
     const int y = m.captured(2).toInt();
     if (!rokOk(y)) return QString();
     return wZakresie(m.captured(1), QDate(y, 1, 1), QDate(y + 1, 1, 1));
   });
-  t = zastap(t, rokPrzed, [](const QRegularExpressionMatch& m) {
+  zastap(t, rokPrzed, [](const QRegularExpressionMatch& m) {
     const int y = m.captured(2).toInt();
     if (!rokOk(y)) return QString();
     return przed(m.captured(1), QDate(y, 1, 1));
   });
-  return t;
+  return t.jet;
 }

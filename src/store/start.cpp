@@ -41,21 +41,24 @@ const QStringList& DomyslneKolory() {
   return k;
 }
 
+// The masks of the edition in force, in the order of kolumnyMasek.
+QStringList maskiWydania() {
+  const bool polski = sesja.pubJezyk == 1;
+  return {QStringLiteral("dd-mmm"),
+          QStringLiteral("dd-mmm-yy"),
+          QStringLiteral("dd/mmm/yyyy"),
+          polski ? QStringLiteral("dd mmmm yyyy") : QStringLiteral("mmmm dd yyyy"),
+          QStringLiteral("dd_mmm_yy"),
+          polski ? QStringLiteral("dd-mmmm-yy") : QStringLiteral("mmmm-dd-yy"),
+          polski ? QStringLiteral("dd-mmmm-yyyy") : QStringLiteral("mm-dd-yyyy")};
+}
+
 bool AktualizujBaze() {
   if (!OtworzBaze()) return false;
   Baza& b = pubBaza();
+  const QStringList wartosci = maskiWydania();
   const Rekordy stara = b.Czytaj(QStringLiteral("SELECT * FROM wersjabazy"));
-  if (!stara.Ok()) return false;
-  if (stara.LiczbaPol() == 2) {
-    const bool polski = sesja.pubJezyk == 1;
-    const QStringList wartosci = {
-        QStringLiteral("dd-mmm"),
-        QStringLiteral("dd-mmm-yy"),
-        QStringLiteral("dd/mmm/yyyy"),
-        polski ? QStringLiteral("dd mmmm yyyy") : QStringLiteral("mmmm dd yyyy"),
-        QStringLiteral("dd_mmm_yy"),
-        polski ? QStringLiteral("dd-mmmm-yy") : QStringLiteral("mmmm-dd-yy"),
-        polski ? QStringLiteral("dd-mmmm-yyyy") : QStringLiteral("mm-dd-yyyy")};
+  if (stara.Ok() && stara.LiczbaPol() == 2) {
     const bool ok = b.Transakcja([&] {
       for (const char* k : kolumnyMasek)
         if (!b.Wykonaj(QStringLiteral("ALTER TABLE wersjabazy ADD COLUMN %1 TEXT(25)")
@@ -70,17 +73,25 @@ bool AktualizujBaze() {
       return bool(
           b.Wykonaj(QStringLiteral("UPDATE wersjabazy SET ") + set.join(QStringLiteral(", "))));
     });
-    if (!ok) return false;
+    if (!ok) ZapiszLog(QStringLiteral("wersjabazy: the upgrade failed"));
   }
+  // The masks as the store holds them. A table of another shape, or one without its row, is
+  // no reason to stop: the edition's own masks serve, and the log says so.
   const Rekordy rs = b.Czytaj(QStringLiteral(
       "SELECT pubFormatDaty_ddpmmm, pubFormatDaty_ddpmmmpyy, pubFormatDaty_ddlmmmlyyyy, "
       "pubFormatDaty_ddsmmmmsyyyy, pubFormatDaty_dd_mmm_yy, pubFormatDaty_ddpmmmmpyy, "
       "pubFormatDaty_ddpmmmmpyyyy, DrukowacZera FROM wersjabazy"));
-  if (!rs.Ok()) return false;
   QString* maski[] = {&sesja.pubFormatDaty_ddpmmm,      &sesja.pubFormatDaty_ddpmmmpyy,
                       &sesja.pubFormatDaty_ddlmmmlyyyy, &sesja.pubFormatDaty_ddsmmmmsyyyy,
                       &sesja.pubFormatDaty_dd_mmm_yy,   &sesja.pubFormatDaty_ddpmmmmpyy,
                       &sesja.pubFormatDaty_ddpmmmmpyyyy};
+  if (!rs.Ok() || rs.Eof()) {
+    ZapiszLog(QStringLiteral("wersjabazy: no masks to read (%1); the edition's own are used")
+                  .arg(rs.Ok() ? QStringLiteral("no row") : rs.Blad()));
+    for (int i = 0; i < 7; ++i) *maski[i] = wartosci[i];
+    sesja.DrukowacZera = 1;
+    return true;
+  }
   for (int i = 0; i < 7; ++i) *maski[i] = rs.Tekst(QLatin1String(kolumnyMasek[i]));
   sesja.DrukowacZera = rs.Tekst(QStringLiteral("DrukowacZera")).toInt();
   return true;

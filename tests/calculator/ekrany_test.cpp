@@ -221,6 +221,22 @@ TEST(KalkulatorEkran, OpenedBesideFieldReturnsItsResult) {
            klik("cmdZamknij");
          });
   EXPECT_EQ(f.kwota->text(), QStringLiteral("4,20"));
+
+  // "=" right behind an operator works it out with the memory: 200 - = gives -200,00.
+  ZOknem([&] { pole->OtworzKalkulator(); },
+         [&](QDialog* okno) {
+           auto klik = [&](const char* nazwa) { Kontrolka<QPushButton>(okno, nazwa)->click(); };
+           auto* ekran = Kontrolka<QLineEdit>(okno, "txtWyswietlacz");
+           Pisz(ekran, QStringLiteral("200"));
+           klik("cmdDzialanie(1)");
+           klik("cmdOblicz");
+           EXPECT_EQ(ekran->text(), QStringLiteral("-200,00"));
+           klik("cmdC");
+           Pisz(ekran, QStringLiteral("200*="));
+           EXPECT_EQ(ekran->text(), QStringLiteral("0,00"));
+           Klawisz(ekran, Qt::Key_Escape, QStringLiteral("\x1b"));
+         });
+  EXPECT_EQ(f.kwota->text(), QStringLiteral("4,20"));
   EXPECT_TRUE(magazyn.host.pokazane.empty());
 }
 

@@ -165,20 +165,52 @@ TEST_F(Klawisze, PendingOperationChainsAndKeyboard) {
   Kalkulator r(QStringLiteral("100,00"));
   Wpisz(r, QStringLiteral("3"));
   EXPECT_EQ(r.Wynik(), QStringLiteral("3,00"));
-  // An operation with no second number is dropped.
-  Wpisz(r, QStringLiteral("-\r"));
-  EXPECT_EQ(r.Wynik(), QStringLiteral("3,00"));
   // Delete and "c" clear the display only; cmdC clears the memory as well.
   Wpisz(r, QStringLiteral("+5"));
   r.Usun();
   EXPECT_EQ(r.Wynik(), QStringLiteral("0"));
   Wpisz(r, QStringLiteral("7\r"));
   EXPECT_EQ(r.Wynik(), QStringLiteral("10,00"));
+  Wpisz(r, QStringLiteral("-3\r"));
+  EXPECT_EQ(r.Wynik(), QStringLiteral("7,00"));
   // "," after an operator starts the second number at its decimals.
   Wpisz(r, QStringLiteral("+,5\r"));
-  EXPECT_EQ(r.Wynik(), QStringLiteral("10,50"));
+  EXPECT_EQ(r.Wynik(), QStringLiteral("7,50"));
   r.PlusMinus();
-  EXPECT_EQ(r.Wynik(), QStringLiteral("10,50"));
+  EXPECT_EQ(r.Wynik(), QStringLiteral("7,50"));
+}
+
+// "=" right behind an operator works the operation out with the memory, which holds 0 until a
+// second number is begun: "200 - =" gives -200.00, "200 * =" 0.00, "200 + =" 200.00, and a
+// second "=" changes nothing. A division by the display's own value is no division by zero.
+TEST_F(Klawisze, EqualsRightAfterAnOperatorUsesTheMemory) {
+  struct Przyklad {
+    const char* klawisze;
+    const char* wynik;
+  } przyklady[] = {
+      {"200-=", "-200,00"},  {"200*=", "0,00"},     {"200+=", "200,00"}, {"200/=", "0,00"},
+      {"200-==", "-200,00"}, {"200-\r", "-200,00"}, {"5+3-=", "-8,00"},  {"200-=+1=", "-199,00"},
+  };
+  for (const auto& p : przyklady) {
+    Kalkulator k(QStringLiteral("0,00"));
+    Wpisz(k, QString::fromUtf8(p.klawisze));
+    EXPECT_EQ(k.Wynik(), QString::fromUtf8(p.wynik)) << p.klawisze;
+    EXPECT_EQ(k.dzialanie, Kalkulator::Brak) << p.klawisze;
+  }
+  // The same with the buttons.
+  Kalkulator b(QStringLiteral("0,00"));
+  b.Liczba(2);
+  b.Liczba(0);
+  b.Liczba(0);
+  b.Dzialanie(Kalkulator::Odejmij);
+  b.Oblicz();
+  EXPECT_EQ(b.Wynik(), QStringLiteral("-200,00"));
+  // 5 then 3 behind the lone 0 of "0,00" is 53,00.
+  Kalkulator z(QStringLiteral("0,00"));
+  z.wyswietlacz.selStart = 1;
+  z.wyswietlacz.selLength = 0;
+  Wpisz(z, QStringLiteral("53"));
+  EXPECT_EQ(z.Wynik(), QStringLiteral("53,00"));
 }
 
 TEST_F(Klawisze, PercentDivisionByZeroAndExactCents) {

@@ -326,8 +326,36 @@ TEST_F(EdytorWpisu, CoverCheckByAccountKindAtEqualityAndAbove) {
   EXPECT_EQ(TytulyKomunikatow(m.host, kTytuly),
             (QStringList{"frmEdycjaTransakcji30", "frmEdycjaTransakcji47"}));
   EXPECT_TRUE(f->isVisible());
-  EXPECT_EQ(sesja.pubTryb, 1);  // OK now saves the planned entry, as the form was opened
   EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM zaplanowane WHERE id=%1").arg(plan)), 1);
+}
+
+// "Realise", Nie to the cover, then OK: the editor is still realising, so OK asks the realising
+// question again and moves the row; it never quietly updates the planned row instead.
+TEST_F(EdytorWpisu, AfterNieToTheCoverOkStillRealises) {
+  const qint64 plan = WpisT(QStringLiteral("zaplanowane"), 2, 5000, QStringLiteral("2026-11-20"),
+                            konto[1], QStringLiteral("aa"), 0, QStringLiteral("Rata"));
+  m.host.odpowiedzi = {WynikTak, WynikNie};
+  auto f = Otworz(1, plan, 2);
+  sesja.pubKonto.saldo = SaldoKonta(konto[1]);
+  Kwota(f.get(), QStringLiteral("4000.00"));
+  Kontrolka<QPushButton>(f.get(), "cmdRealizuj")->click();
+  EXPECT_EQ(TytulyKomunikatow(m.host, kTytuly),
+            (QStringList{"frmEdycjaTransakcji30", "frmEdycjaTransakcji47"}));
+  EXPECT_TRUE(f->isVisible());
+  EXPECT_EQ(sesja.pubTryb, 3);
+
+  m.host.pokazane.clear();
+  m.host.odpowiedzi = {WynikTak, WynikTak};
+  Ok(f.get());
+  EXPECT_EQ(TytulyKomunikatow(m.host, kTytuly),
+            (QStringList{"frmEdycjaTransakcji30", "frmEdycjaTransakcji47"}));
+  ASSERT_FALSE(m.host.pokazane.empty());
+  EXPECT_TRUE(m.host.pokazane[0].tekst.startsWith(Napis(QStringLiteral("frmEdycjaTransakcji28"))));
+  EXPECT_EQ(f->result(), QDialog::Accepted);
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM zaplanowane")), 0);
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM transakcje WHERE wydatek=4000 AND "
+                                  "opis='Rata  ' AND data='2026-11-20'")),
+            1);
 }
 
 // The statements in the store's dialect, and what they store: any description exactly, with two

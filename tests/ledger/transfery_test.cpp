@@ -241,5 +241,39 @@ TEST_F(EdytorTransferu, StatementsAndAtomicRealising) {
   EXPECT_EQ(
       m.Licz(QStringLiteral("SELECT COUNT(*) FROM zaplanowanewewnetrzne WHERE id=%1").arg(plan)),
       1);
-  EXPECT_EQ(sesja.pubTryb, 1);
+  // Still realising: once the store takes the write, OK moves the row.
+  EXPECT_EQ(sesja.pubTryb, 3);
+  ASSERT_EQ(sqlite3_exec(pubBaza().Uchwyt(), "DROP TRIGGER stop", nullptr, nullptr, &blad),
+            SQLITE_OK);
+  m.host.odpowiedzi = {WynikTak, WynikTak};
+  Ok(f.get());
+  EXPECT_EQ(f->result(), QDialog::Accepted);
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM zaplanowanewewnetrzne")), 0);
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM wewnetrzne WHERE kwota=40")), 1);
+}
+
+// "Realise", Nie to the cover, then OK: still realising, the row is moved, not updated in place.
+TEST_F(EdytorTransferu, AfterNieToTheCoverOkStillRealises) {
+  const qint64 plan =
+      TransferT(QStringLiteral("zaplanowanewewnetrzne"), 500, QStringLiteral("2026-11-30"), portfel,
+                bank, QStringLiteral("Wpłata"));
+  m.host.odpowiedzi = {WynikTak, WynikNie};
+  auto f = Otworz(1, plan);
+  Kontrolka<QPushButton>(f.get(), "cmdRealizuj")->click();
+  EXPECT_EQ(Tytuly(m.host), (QStringList{"22", "42"}));
+  EXPECT_TRUE(f->isVisible());
+  EXPECT_EQ(sesja.pubTryb, 3);
+
+  m.host.pokazane.clear();
+  m.host.odpowiedzi = {WynikTak, WynikTak};
+  Ok(f.get());
+  EXPECT_EQ(Tytuly(m.host), (QStringList{"22", "42"}));
+  ASSERT_FALSE(m.host.pokazane.empty());
+  EXPECT_TRUE(m.host.pokazane[0].tekst.startsWith(
+      Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej20"))));
+  EXPECT_EQ(f->result(), QDialog::Accepted);
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM zaplanowanewewnetrzne")), 0);
+  EXPECT_EQ(
+      m.Licz(QStringLiteral("SELECT COUNT(*) FROM wewnetrzne WHERE kwota=500 AND opis='Wpłata  '")),
+      1);
 }

@@ -148,7 +148,9 @@ TEST(PrzegladKont, TreeBalancePanelAndDetails) {
   // into it, mBank's opening balance before it.
   W<QPushButton>(&f, QStringLiteral("cmdFiltr(3)"))->click();
   EXPECT_EQ(sesja.pubFiltrCzasowy.rodzaj, 3);
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblKiedy"))->text(), sesja.pubOkres.opis);
+  // Beside the balance before the period stands its caption, not the period's name.
+  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblKiedy"))->text(),
+            Napis(QStringLiteral("frmPrzegladKont35")));
   EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblOkres"))->text(),
             FiltrCzasowy(sesja.pubFiltrCzasowy).opisDlugi);
   EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblPoczatek"))->text(), FormatKwoty(-50));

@@ -6,13 +6,14 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <QElapsedTimer>
+#include <limits>
 
 #include "common/magazyn_testowy.h"
 #include "store/baza.h"
 
 namespace {
 
-QString T(const char* jet) { return TlumaczJet(QString::fromUtf8(jet)); }
+std::string T(const char* jet) { return TlumaczJet(QString::fromUtf8(jet)).toStdString(); }
 
 // The first field of the first row of a Jet read.
 QVariant jedno(const QString& jet) {
@@ -57,17 +58,17 @@ TEST(Jet, TokensAreRewrittenOnlyOutsideTexts) {
   // A date, and the same characters inside a text that must stay as typed.
   EXPECT_EQ(T("SELECT * FROM transakcje WHERE data=#03/31/2003# AND opis='#03/31/2003# O''Neil * ? "
               "% 1AND'"),
-            "SELECT * FROM transakcje WHERE data='2003-03-31' AND opis='#03/31/2003# O''Neil * ? % "
-            "1AND'");
+            "SELECT * FROM transakcje WHERE data='2003-03-31' AND opis COLLATE PL='#03/31/2003# "
+            "O''Neil * ? % 1AND'");
   EXPECT_EQ(T("SELECT 1 FROM pytania WHERE datawyslania>=#1/5/2026# AND datawyslania<#2026-02-01#"),
             "SELECT 1 FROM pytania WHERE datawyslania>='2026-01-05' AND datawyslania<'2026-02-01'");
   // TOP becomes LIMIT at the end of its own SELECT, also of a subquery.
   EXPECT_EQ(T("SELECT TOP 1 id FROM konta ORDER BY id DESC"),
             "SELECT id FROM konta ORDER BY id DESC LIMIT 1");
   EXPECT_EQ(T("SELECT nazwa FROM konta WHERE id IN (SELECT TOP 3 konto FROM transakcje ORDER BY "
-              "data DESC) ORDER BY nazwa"),
-            "SELECT nazwa FROM konta WHERE id IN (SELECT konto FROM transakcje ORDER BY data DESC "
-            "LIMIT 3) ORDER BY nazwa");
+              "data DESC, id DESC) ORDER BY nazwa"),
+            "SELECT nazwa FROM konta WHERE id IN (SELECT konto FROM transakcje ORDER BY data DESC, "
+            "id DESC LIMIT 3) ORDER BY nazwa COLLATE PL");
   EXPECT_EQ(T("SELECT TOP 2 opis FROM transakcje;"), "SELECT opis FROM transakcje LIMIT 2;");
   // The column "limit", bare or qualified; SQLite's own "LIMIT 5" stays.
   EXPECT_EQ(
@@ -89,7 +90,7 @@ TEST(Jet, TokensAreRewrittenOnlyOutsideTexts) {
   EXPECT_EQ(T("SELECT [nazwa] & \"it's\" FROM konta WHERE True"),
             "SELECT \"nazwa\" || 'it''s' FROM konta WHERE -1");
   EXPECT_EQ(T("SELECT COUNT(*) AS ile FROM konta WHERE nazwa='O''Brien'"),
-            "SELECT COUNT(*) AS ile FROM konta WHERE nazwa='O''Brien'");
+            "SELECT COUNT(*) AS ile FROM konta WHERE nazwa COLLATE PL='O''Brien'");
 }
 
 TEST(Jet, QuotedNumbersBecomeNumbersOnlyInNumberColumns) {
@@ -109,12 +110,12 @@ TEST(Jet, QuotedNumbersBecomeNumbersOnlyInNumberColumns) {
   // Comparisons either way round, through an alias, and not inside LIKE or a function.
   EXPECT_EQ(T("SELECT * FROM transakcje,konta WHERE '12,5'=przychod AND konta.nazwa='3' AND "
               "transakcje.wydatek<>'3'"),
-            "SELECT * FROM transakcje,konta WHERE 12.5=przychod AND konta.nazwa='3' AND "
+            "SELECT * FROM transakcje,konta WHERE 12.5=przychod AND konta.nazwa COLLATE PL='3' AND "
             "transakcje.wydatek<>3");
   EXPECT_EQ(T("SELECT * FROM wewnetrzne, konta AS kontaprim WHERE kontaprim.limit>='5,5' AND "
               "kontaprim.nazwa=LEFT('1,5',1)"),
             "SELECT * FROM wewnetrzne, konta AS kontaprim WHERE kontaprim.\"limit\">=5.5 AND "
-            "kontaprim.nazwa=JETLEFT('1,5',1)");
+            "kontaprim.nazwa COLLATE PL=JETLEFT('1,5',1)");
   // Not a number: left as it is.
   EXPECT_EQ(T("UPDATE konta SET bowinien='12,5x' WHERE id=1"),
             "UPDATE konta SET bowinien='12,5x' WHERE id=1");
@@ -323,4 +324,57 @@ TEST(Jet, SumsAreExactToTheCent) {
                nullptr, nullptr, nullptr);
   EXPECT_EQ(jedno("SELECT SUM(kwota) FROM wewnetrzne").toDouble(), 6.5);
   EXPECT_EQ(jedno("SELECT SUM(kwota) FROM wewnetrzne WHERE kwota<0").toDouble(), -0.01);
+}
+
+// Sums far beyond what 64-bit cents hold are still exact (or as near as a double can hold
+// them), and an amount no sum can hold is an error, never a wrong number.
+TEST(Jet, SumsNeverOverflow) {
+  MagazynTestowy m;
+  sqlite3* db = pubBaza().Uchwyt();
+  auto wstaw = [&](double kwota, int ile) {
+    sqlite3_exec(db, "BEGIN", nullptr, nullptr, nullptr);
+    sqlite3_stmt* st = nullptr;
+    sqlite3_prepare_v2(
+        db, "INSERT INTO wewnetrzne (data,kwota,zkonta,nakonto) VALUES ('2026-11-22',?,1,2)", -1,
+        &st, nullptr);
+    for (int i = 0; i < ile; ++i) {
+      sqlite3_bind_double(st, 1, kwota);
+      sqlite3_step(st);
+      sqlite3_reset(st);
+    }
+    sqlite3_finalize(st);
+    sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+  };
+  // 100 000 transfers of a trillion: 10^19 cents, past the 64-bit range.
+  wstaw(1e12, 100000);
+  EXPECT_EQ(jedno("SELECT SUM(kwota) AS s FROM wewnetrzne").toDouble(), 1e17);
+  wstaw(-1e12, 100000);
+  wstaw(999999999999.99, 3);
+  EXPECT_EQ(jedno("SELECT SUM(kwota) AS s FROM wewnetrzne").toDouble(), 2999999999999.97);
+  // The largest amounts a user can type, many times over: the double nearest the exact sum.
+  sqlite3_exec(db, "DELETE FROM wewnetrzne", nullptr, nullptr, nullptr);
+  wstaw(999999999999.99, 20000);
+  EXPECT_EQ(jedno("SELECT SUM(kwota) AS s FROM wewnetrzne").toDouble(), 19999999999999800.0);
+  // Whole numbers near the 64-bit limit, and text amounts with more digits than a double holds.
+  EXPECT_EQ(jedno("SELECT SUM(x) FROM (SELECT 9223372036854775807 AS x UNION ALL SELECT "
+                  "9223372036854775807)")
+                .toDouble(),
+            18446744073709551614.0);
+  EXPECT_EQ(jedno("SELECT SUM(x) FROM (SELECT '90071992547409930,07' AS x UNION ALL SELECT "
+                  "'-90071992547409930,06')")
+                .toDouble(),
+            0.01);
+  // Beyond any sum: an error.
+  const struct {
+    double kwota;
+    int ile;
+  } zle[] = {{1e300, 1}, {std::numeric_limits<double>::infinity(), 1}, {5e35, 4}};
+  for (const auto& z : zle) {
+    sqlite3_exec(db, "DELETE FROM wewnetrzne", nullptr, nullptr, nullptr);
+    wstaw(z.kwota, z.ile);
+    const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT SUM(kwota) AS s FROM wewnetrzne"));
+    EXPECT_FALSE(rs.Ok()) << z.kwota;
+    EXPECT_TRUE(rs.Eof());
+  }
+  EXPECT_EQ(jedno("SELECT 1e3 + 2.5E-1").toDouble(), 1000.25);
 }

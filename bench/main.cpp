@@ -6,7 +6,7 @@
 #include <sqlcipher/sqlite3.h>
 #include <sys/resource.h>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -105,7 +105,9 @@ bool przygotujMagazyn(const Opcje& o, const QString& plik) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication app(argc, argv);
+  // Fonts (the PDF of a report) need a GUI application; no screen is needed for it.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication app(argc, argv);
   Opcje o;
   const QStringList a = app.arguments();
   for (int i = 1; i < a.size(); ++i) {

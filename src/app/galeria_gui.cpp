@@ -19,6 +19,7 @@
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/kategorie_galeria_gui.h"
 #include "masterdata/kontrahenci_galeria_gui.h"
+#include "reports/raporty_galeria_gui.h"
 #include "setup/frmHaslo.h"
 #include "ui/frmMsgBox.h"
 #include "setup/frmStart.h"
@@ -154,6 +155,16 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
        [] { return GaleriaPrzegladuKontrahentow(false); }},
       {QStringLiteral("frmPrzegladKontrahentow-picker"),
        [] { return GaleriaPrzegladuKontrahentow(true); }},
+      {QStringLiteral("frmRaportKont-trwa"),
+       [] { return GaleriaRaportu(QStringLiteral("frmRaportKont"), true); }},
+      {QStringLiteral("frmRaportKont"),
+       [] { return GaleriaRaportu(QStringLiteral("frmRaportKont"), false); }},
+      {QStringLiteral("frmRaportKategorii-szczegoly"),
+       [] { return GaleriaRaportu(QStringLiteral("frmRaportKategorii"), false); }},
+      {QStringLiteral("frmRaportKontrahenta"),
+       [] { return GaleriaRaportu(QStringLiteral("frmRaportKontrahenta"), false); }},
+      {QStringLiteral("frmRaportSumaryczny"),
+       [] { return GaleriaRaportu(QStringLiteral("frmRaportSumaryczny"), false); }},
       {QStringLiteral("frmZmianaDaty"), [] { return std::make_unique<frmZmianaDaty>(); }},
       {QStringLiteral("frmZakresDat"),
        [] {

@@ -1,5 +1,6 @@
 #include "store/jet.h"
 
+#include "store/jet_przedrostki.h"
 #include "store/jet_tlumacz.h"
 #include "store/jet_zakresy.h"
 
@@ -483,5 +484,5 @@ class Pamiec {
 QString TlumaczJet(const QString& jet) {
   thread_local Pamiec pamiec;
   if (const QString* znany = pamiec.znajdz(jet)) return *znany;
-  return pamiec.dodaj(jet, TlumaczJetu(ZakresyDat(jet)).wynik());
+  return pamiec.dodaj(jet, TlumaczJetu(ZakresyDat(ZakresyPrzedrostkow(jet))).wynik());
 }

@@ -6,6 +6,7 @@
 #include "masterdata/frmPrzegladKategorii.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/frmPrzegladKontrahentow.h"
+#include "questions/pytania_ekrany_gui.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "ui/nawigacja_gui.h"
@@ -28,4 +29,5 @@ void ZarejestrujEkrany() {
   modalny<frmZakresDat>("frmZakresDat");
   Nawigacja::Zarejestruj(QStringLiteral("frmKalkulatorCaly"),
                          [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
+  ZarejestrujEkranyPytan();
 }

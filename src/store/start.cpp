@@ -72,6 +72,7 @@ bool AktualizujBaze() {
     });
     if (!ok) return false;
   }
+  DodajAdresSerwisu();
   const Rekordy rs = b.Czytaj(QStringLiteral(
       "SELECT pubFormatDaty_ddpmmm, pubFormatDaty_ddpmmmpyy, pubFormatDaty_ddlmmmlyyyy, "
       "pubFormatDaty_ddsmmmmsyyyy, pubFormatDaty_dd_mmm_yy, pubFormatDaty_ddpmmmmpyy, "
@@ -84,6 +85,14 @@ bool AktualizujBaze() {
   for (int i = 0; i < 7; ++i) *maski[i] = rs.Tekst(QLatin1String(kolumnyMasek[i]));
   sesja.DrukowacZera = rs.Tekst(QStringLiteral("DrukowacZera")).toInt();
   return true;
+}
+
+bool DodajAdresSerwisu() {
+  const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT * FROM setup WHERE 1=0"));
+  if (!rs.Ok()) return false;
+  if (rs.NazwyPol().contains(QStringLiteral("adresserwisu"), Qt::CaseInsensitive)) return true;
+  return bool(
+      pubBaza().Wykonaj(QStringLiteral("ALTER TABLE setup ADD COLUMN adresserwisu TEXT(255)")));
 }
 
 bool CzyPustaBaza() {

@@ -6,6 +6,7 @@
 #include "masterdata/frmPrzegladKategorii.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/frmPrzegladKontrahentow.h"
+#include "questions/pytania_ekrany_gui.h"
 #include "reports/frmRaport.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
@@ -30,4 +31,5 @@ void ZarejestrujEkrany() {
   Nawigacja::Zarejestruj(QStringLiteral("frmKalkulatorCaly"),
                          [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
   ZarejestrujRaporty();
+  ZarejestrujEkranyPytan();
 }

@@ -19,6 +19,7 @@
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/kategorie_galeria_gui.h"
 #include "masterdata/kontrahenci_galeria_gui.h"
+#include "questions/pytania_galeria_gui.h"
 #include "reports/raporty_galeria_gui.h"
 #include "setup/frmHaslo.h"
 #include "ui/frmMsgBox.h"
@@ -172,6 +173,9 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
          sesja.pubFiltrCzasowy.do_ = QDate(2026, 11, 22);
          return std::make_unique<frmZakresDat>();
        }},
+      {QStringLiteral("frmZadajPytanie"), GaleriaPytan},
+      {QStringLiteral("frmZadajPytanieEdycja"), GaleriaEdycjiPytania},
+      {QStringLiteral("frmUstawieniaInternetowe"), GaleriaUstawienInternetowych},
   };
   return w;
 }

@@ -75,6 +75,7 @@ bool AktualizujBaze() {
     });
     if (!ok) ZapiszLog(QStringLiteral("wersjabazy: the upgrade failed"));
   }
+  DodajAdresSerwisu();
   // The masks as the store holds them. A table of another shape, or one without its row, is
   // no reason to stop: the edition's own masks serve, and the log says so.
   const Rekordy rs = b.Czytaj(QStringLiteral(
@@ -95,6 +96,14 @@ bool AktualizujBaze() {
   for (int i = 0; i < 7; ++i) *maski[i] = rs.Tekst(QLatin1String(kolumnyMasek[i]));
   sesja.DrukowacZera = rs.Tekst(QStringLiteral("DrukowacZera")).toInt();
   return true;
+}
+
+bool DodajAdresSerwisu() {
+  const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT * FROM setup WHERE 1=0"));
+  if (!rs.Ok()) return false;
+  if (rs.NazwyPol().contains(QStringLiteral("adresserwisu"), Qt::CaseInsensitive)) return true;
+  return bool(
+      pubBaza().Wykonaj(QStringLiteral("ALTER TABLE setup ADD COLUMN adresserwisu TEXT(255)")));
 }
 
 bool CzyPustaBaza() {

@@ -7,6 +7,9 @@
 // Adds the eight mask columns to a two-column wersjabazy (with the masks of the edition in
 // force) and reads the masks into the session. False when the store can't be read.
 bool AktualizujBaze();
+// Adds setup's adresserwisu column (the questions service's address, empty for the default) to a
+// store that lacks it; part of AktualizujBaze. False when the store refused.
+bool DodajAdresSerwisu();
 // True when there is no category, no account and no counterparty.
 bool CzyPustaBaza();
 // Reads the setup row into the session; inserts the default row when there is none.

@@ -76,7 +76,10 @@ INSERT INTO szablonywewnetrzne (id, nazwa, zkonta, nakonto, opis) VALUES
  (1, 'Bankomat', 2, 1, 'Gotówka'),
  (2, 'Lokata', 2, 4, 'Oszczędności');
 DELETE FROM setup;
-INSERT INTO setup VALUES ('12303359', '986895', '16777139', '8454143', '4194304', '16777215',
+INSERT INTO setup (tloaktywne, napisyaktywne, przyciskiaktywne, etykietyaktywne,
+ napisyetykietaktywne, listajeden, listadwa, tlonieaktywne, napisynieaktywne, haslo, notatnik,
+ userid, hasloserwisu, imie, nazwisko, ulica, miasto, lk, bank, konto, autostart,
+ autostartprzypominacz) VALUES ('12303359', '986895', '16777139', '8454143', '4194304', '16777215',
  '10812380', '15724527', '986895', '', '', '', '', 'Jan', 'Kowalski', 'ul. Polna 2',
  '00-001 Warszawa', '07', '10501234', '0000111122223333', 0, 1);
 INSERT INTO imieniny (dzien, miesiac, imiona) SELECT 22, 11, 'Cecylii, Marka'

@@ -3,6 +3,8 @@
 #include "calculator/frmKalkulatorCaly.h"
 #include "ledger/frmEdycjaTransakcji.h"
 #include "ledger/frmEdycjaTransakcjiWewnetrznej.h"
+#include "ledger/frmPrzegladTransakcji.h"
+#include "ledger/frmPrzegladTransakcjiWewnetrznych.h"
 #include "masterdata/frmPrzegladKategorii.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/frmPrzegladKontrahentow.h"
@@ -23,6 +25,8 @@ void modalny(const char* nazwa) {
 void ZarejestrujEkrany() {
   modalny<frmEdycjaTransakcji>("frmEdycjaTransakcji");
   modalny<frmEdycjaTransakcjiWewnetrznej>("frmEdycjaTransakcjiWewnetrznej");
+  modalny<frmPrzegladTransakcji>("frmPrzegladTransakcji");
+  modalny<frmPrzegladTransakcjiWewnetrznych>("frmPrzegladTransakcjiWewnetrznych");
   modalny<frmPrzegladKont>("frmPrzegladKont");
   modalny<frmPrzegladKategorii>("frmPrzegladKategorii");
   modalny<frmPrzegladKontrahentow>("frmPrzegladKontrahentow");

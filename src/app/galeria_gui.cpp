@@ -12,6 +12,7 @@
 #include "calculator/frmKalkulator.h"
 #include "calculator/frmKalkulatorCaly.h"
 #include "ledger/edytory_galeria_gui.h"
+#include "ledger/przeglad_galeria_gui.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "mainwindow/frmMain.h"
@@ -150,6 +151,17 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmEdycjaTransakcji-zaplanowany"), GaleriaZaplanowanegoWpisu},
       {QStringLiteral("frmEdycjaTransakcjiWewnetrznej-nowy"), GaleriaNowegoTransferu},
       {QStringLiteral("frmEdycjaTransakcjiWewnetrznej-zaplanowany"), GaleriaZaplanowanegoTransferu},
+      {QStringLiteral("frmPrzegladTransakcji"), [] { return GaleriaPrzegladuTransakcji(2, -1); }},
+      {QStringLiteral("frmPrzegladTransakcji-zaplanowane"),
+       [] { return GaleriaPrzegladuTransakcji(1, -1); }},
+      {QStringLiteral("frmPrzegladTransakcji-wg-wydatku"),
+       [] { return GaleriaPrzegladuTransakcji(2, 2); }},
+      {QStringLiteral("frmPrzegladTransakcjiWewnetrznych"),
+       [] { return GaleriaPrzegladuTransferow(2, -1); }},
+      {QStringLiteral("frmPrzegladTransakcjiWewnetrznych-zaplanowane"),
+       [] { return GaleriaPrzegladuTransferow(1, -1); }},
+      {QStringLiteral("frmPrzegladTransakcjiWewnetrznych-wg-konta"),
+       [] { return GaleriaPrzegladuTransferow(2, 2); }},
       {QStringLiteral("frmEdycjaKontrahenta"), [] { return GaleriaEdycjiKontrahenta(false); }},
       {QStringLiteral("frmEdycjaKontrahenta-nowy"), [] { return GaleriaEdycjiKontrahenta(true); }},
       {QStringLiteral("frmPrzegladKontrahentow-browse"),

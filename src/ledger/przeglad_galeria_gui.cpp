@@ -1,0 +1,34 @@
+#include "ledger/przeglad_galeria_gui.h"
+
+#include "ledger/frmPrzegladTransakcji.h"
+#include "ledger/frmPrzegladTransakcjiWewnetrznych.h"
+#include "store/napis.h"
+#include "store/session.h"
+
+namespace {
+
+template <typename Forma>
+std::unique_ptr<QWidget> przeglad(int tryb, int kolumna) {
+  sesja.pubTryb = tryb;
+  sesja.pubFiltrCzasowy.rodzaj = tryb == 2 ? 3 : 0;
+  sesja.pubWierszTransakcji = sesja.pubWierszTransferu = 0;
+  sesja.pubFiltrTransakcji.clear();
+  sesja.pubFiltrTransferow.clear();
+  // The titles the main window's captions hand over.
+  sesja.pubTytulTransakcji = Napis(QStringLiteral("frmMain176"));
+  sesja.pubTytulTransferow = Napis(QStringLiteral("frmMain177"));
+  auto f = std::make_unique<Forma>();
+  if (kolumna >= 0) f->KliknijNaglowek(kolumna);
+  f->ZaznaczWiersz(3);
+  return f;
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> GaleriaPrzegladuTransakcji(int tryb, int kolumna) {
+  return przeglad<frmPrzegladTransakcji>(tryb, kolumna);
+}
+
+std::unique_ptr<QWidget> GaleriaPrzegladuTransferow(int tryb, int kolumna) {
+  return przeglad<frmPrzegladTransakcjiWewnetrznych>(tryb, kolumna);
+}

@@ -7,10 +7,12 @@
 
 namespace {
 
+// Executed rows over a month of entries, or a year of the fewer transfers; planned rows over
+// every period.
 template <typename Forma>
-std::unique_ptr<QWidget> przeglad(int tryb, int kolumna) {
+std::unique_ptr<QWidget> przeglad(int tryb, int kolumna, int okres) {
   sesja.pubTryb = tryb;
-  sesja.pubFiltrCzasowy.rodzaj = tryb == 2 ? 3 : 0;
+  sesja.pubFiltrCzasowy.rodzaj = tryb == 2 ? okres : 0;
   sesja.pubWierszTransakcji = sesja.pubWierszTransferu = 0;
   sesja.pubFiltrTransakcji.clear();
   sesja.pubFiltrTransferow.clear();
@@ -26,9 +28,9 @@ std::unique_ptr<QWidget> przeglad(int tryb, int kolumna) {
 }  // namespace
 
 std::unique_ptr<QWidget> GaleriaPrzegladuTransakcji(int tryb, int kolumna) {
-  return przeglad<frmPrzegladTransakcji>(tryb, kolumna);
+  return przeglad<frmPrzegladTransakcji>(tryb, kolumna, 3);
 }
 
 std::unique_ptr<QWidget> GaleriaPrzegladuTransferow(int tryb, int kolumna) {
-  return przeglad<frmPrzegladTransakcjiWewnetrznych>(tryb, kolumna);
+  return przeglad<frmPrzegladTransakcjiWewnetrznych>(tryb, kolumna, 5);
 }

@@ -194,8 +194,8 @@ void PrzegladWpisowGui::zbuduj() {
   int szerokosc = 0;
   for (int k = 0; k < model_->columnCount(); ++k) szerokosc += lvw_->columnWidth(k);
   szerokosc += lvw_->verticalScrollBar()->sizeHint().width() + 2 * lvw_->frameWidth() + 16;
-  QSize rozmiar(std::max(szerokosc, 760), 600);
-  if (const QScreen* s = screen()) rozmiar = rozmiar.boundedTo(s->availableSize() * 0.95);
+  QSize rozmiar(std::max(szerokosc, 940), 620);
+  if (const QScreen* s = screen()) rozmiar = rozmiar.boundedTo(s->availableSize());
   resize(rozmiar);
 }
 
@@ -205,7 +205,7 @@ void PrzegladWpisowGui::ustawKolumny() {
   const int data =
       m.horizontalAdvance(FormatDaty(QDate(2028, 12, 28), sesja.pubFormatDaty_ddpmmmpyy));
   const int kwota = m.horizontalAdvance(FormatKwoty(9999999.99));
-  const int nazwa = m.horizontalAdvance(QLatin1Char('x')) * 18;
+  const int nazwa = m.horizontalAdvance(QLatin1Char('x')) * 16;
   for (int k = 0; k < model_->columnCount(); ++k) {
     const int naglowek =
         m.horizontalAdvance(model_->headerData(k, Qt::Horizontal, Qt::DisplayRole).toString()) +
@@ -223,8 +223,9 @@ void PrzegladWpisowGui::OdswiezMain() {
   OtworzBaze();
   sesja.pubOkres = FiltrCzasowy(sesja.pubFiltrCzasowy);
   const QString tabela = TabelaPrzegladu(rodzaj_, tryb_);
-  // The bar runs up to the rows of the table: the rows of the list are at most as many.
-  const qint64 najwiecej = PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM ") + tabela);
+  // The bar runs up to the highest id of the table, which the store knows at once: the rows of
+  // the list are at most as many.
+  const qint64 najwiecej = PoliczIle(QStringLiteral("SELECT MAX(id) AS ile FROM ") + tabela);
   pbrPasek_->setRange(0, int(std::clamp<qint64>(najwiecej, 1, INT_MAX)));
   pbrPasek_->setValue(0);
   pbrPasek_->show();
@@ -382,4 +383,9 @@ void PrzegladWpisowGui::odswiezJesliCzeka() {
 void PrzegladWpisowGui::showEvent(QShowEvent* zdarzenie) {
   QDialog::showEvent(zdarzenie);
   lvw_->setFocus();
+  // A line chosen before the window showed is scrolled to once the list has its final size.
+  lvw_->scrollToTop();
+  QTimer::singleShot(0, this, [this] {
+    if (lvw_->currentIndex().isValid()) lvw_->scrollTo(lvw_->currentIndex());
+  });
 }

@@ -148,9 +148,12 @@ TEST(PrzegladTransakcji, EditAndDeleteRefillTheListAndItsTotals) {
   sesja.pubTryb = 2;
   sesja.pubFiltrCzasowy.rodzaj = 0;
   sesja.pubFiltrTransakcji.clear();
+  sesja.pubWierszTransakcji = 2;  // the line a caller asks to stand on: "żurek", 2026-11-05
   frmPrzegladTransakcji p;
   p.show();
-  ASSERT_TRUE(p.ZaznaczWiersz(2));  // "żurek", 2026-11-05
+  QApplication::processEvents();
+  ASSERT_EQ(p.WybranyWiersz(), 2);
+  EXPECT_EQ(sesja.pubWierszTransakcji, 0);
   m.host.odpowiedzi = {WynikTak};   // the change confirmed
   ZOknem([&] { p.EdytujWiersz(); },
          [&](QDialog* e) {

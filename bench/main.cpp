@@ -1,4 +1,4 @@
-// zorvik-bench [--dane DIR] [--data DIR] [--nowa] [--filtr TEXT] [--czas MS]
+// zorvik-bench [--dane DIR] [--data DIR] [--nowa] [--wpisy N] [--filtr TEXT] [--czas MS]
 // Times the program's store work on a generated store of the design's size (100 000 entries,
 // 20 000 transfers, 40 accounts, 300 categories, 500 counterparties) beside the same queries run
 // as raw SQL on the same file, and prints the medians, their ratio and the peak memory.
@@ -28,6 +28,7 @@ struct Opcje {
   bool nowa = false;
   QString filtr;
   double czasMs = 400;  // time spent on each side of a case, at least five samples
+  int wpisy = 0;        // entries of a new store; 0: the design's 100 000
 };
 
 int blad(const QString& tekst) {
@@ -96,7 +97,7 @@ bool przygotujMagazyn(const Opcje& o, const QString& plik) {
   t.start();
   if (!ZbudujBaze(o.data, plik, &tekst)) return blad(tekst) == 0;
   const qint64 budowa = t.restart();
-  if (!GenerujProbke(plik, RozmiarProbki(), &tekst)) return blad(tekst) == 0;
+  if (!GenerujProbke(plik, o.wpisy > 0 ? RozmiarDlaWpisow(o.wpisy) : RozmiarProbki(), &tekst)) return blad(tekst) == 0;
   std::printf("made the store %s: delivered tables %lld ms, sample %lld ms\n", qPrintable(plik),
               static_cast<long long>(budowa), static_cast<long long>(t.elapsed()));
   return true;
@@ -120,11 +121,14 @@ int main(int argc, char** argv) {
       o.filtr = a[++i];
     else if (a[i] == QLatin1String("--czas") && wartosc)
       o.czasMs = a[++i].toDouble();
+    else if (a[i] == QLatin1String("--wpisy") && wartosc)
+      o.wpisy = a[++i].toInt();
     else if (a[i] == QLatin1String("--nowa"))
       o.nowa = true;
     else
       return blad(QStringLiteral(
-          "usage: zorvik-bench [--dane DIR] [--data DIR] [--nowa] [--filtr TEXT] [--czas MS]"));
+          "usage: zorvik-bench [--dane DIR] [--data DIR] [--nowa] [--wpisy N] [--filtr TEXT] "
+          "[--czas MS]"));
   }
   const QString plik = QDir(o.folder).filePath(QStringLiteral("money.fns"));
   if (!przygotujMagazyn(o, plik)) return 1;

@@ -178,6 +178,10 @@ void frmMain::zbudujMenu() {
   s->addSeparator();
   polecenie(s, QStringLiteral("mnuKategoriePrzychodowWCzasie"), Napis(QStringLiteral("frmMain36")));
   polecenie(s, QStringLiteral("mnuKategorieWydatkowWCzasie"), Napis(QStringLiteral("frmMain37")));
+  s->addSeparator();
+  polecenie(s, QStringLiteral("mnuKategoriePrzychodowSumaryczny"),
+            Napis(QStringLiteral("frmMain900")));
+  polecenie(s, QStringLiteral("mnuKategorieWydatkowSumaryczny"), Napis(QStringLiteral("frmMain901")));
   s = menu(m, "mnuRaportyKontrahentow", Napis(QStringLiteral("frmMain38")));
   polecenie(s, QStringLiteral("mnuKontrahenciBiezace"), Napis(QStringLiteral("frmMain39")));
   polecenie(s, QStringLiteral("mnuKontrahenciWCzasie"), Napis(QStringLiteral("frmMain40")));

@@ -128,6 +128,7 @@ const QHash<QString, Wpis>& tabela() {
               sesja.pubTryb = 2;
               sesja.pubFiltrTransakcji = QStringLiteral(" AND transakcje.konto=konta.id ");
               sesja.pubTytulTransakcji = Napis(QStringLiteral("frmMain19"));
+              sesja.pubZapytanieRaportu.clear();  // the report asks the browser's statement
               pokaz(QStringLiteral("frmRaportTransakcji"));
             });
       dodaj(QStringLiteral("mnuTransferyBiezacy(%1)").arg(i),
@@ -135,6 +136,7 @@ const QHash<QString, Wpis>& tabela() {
               okres(i);
               sesja.pubTryb = 2;
               sesja.pubFiltrTransferow.clear();
+              sesja.pubZapytanieRaportu.clear();
               pokaz(QStringLiteral("frmRaportTransakcjiWewnetrznych"));
             });
     }
@@ -155,6 +157,13 @@ const QHash<QString, Wpis>& tabela() {
               sesja.pubKategoria.identyfikator = QStringLiteral("Root");
               sesja.pubKategoria.rodzaj = rodzaj;
               pokaz(QStringLiteral("frmRaportKategorii"));
+            });
+      // The summary report: the month of the working date against the month before.
+      dodaj(QStringLiteral("mnuKategorie") + p + QStringLiteral("Sumaryczny"),
+            QStringLiteral("frmRaportSumaryczny"), [rodzaj] {
+              okres(3);
+              sesja.pubKategoria.rodzaj = rodzaj;
+              pokaz(QStringLiteral("frmRaportSumaryczny"));
             });
       dodaj(QStringLiteral("mnuKategorie") + p + QStringLiteral("WCzasie"),
             QStringLiteral("frmRaportKategorieWCzasie"), [rodzaj] {

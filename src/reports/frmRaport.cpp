@@ -215,4 +215,8 @@ void ZarejestrujRaporty() {
       okno.exec();
     });
   }
+  Nawigacja::Zarejestruj(QStringLiteral("frmRaport"), [](QWidget* rodzic) {
+    frmRaport okno(*ZnajdzFormularz(QStringLiteral("frmRaport")), rodzic);
+    okno.exec();
+  });
 }

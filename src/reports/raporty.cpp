@@ -8,6 +8,16 @@ const FormularzRaportu kFormularze[] = {
     {"frmRaportKont", "frmRaport", "frmRaport24", 96, 3, TworzRaportKont},
     {"frmRaportKategorii", "frmRaportKategorii", "frmRaportKategorii14", 85, 2, TworzRaportKategorii},
     {"frmRaportKontrahenta", "frmRaportKontrahenta", "frmRaportKontrahenta12", 96, 1, TworzRaportKontrahenta},
+    {"frmRaportTransakcji", "frmRaportTransakcji", "frmRaportTransakcji15", 109, 1,
+     TworzRaportTransakcji},
+    {"frmRaportTransakcjiWewnetrznych", "frmRaportTransakcjiWewnetrznych",
+     "frmRaportTransakcjiWewnetrznych13", 109, 1, TworzRaportTransferow},
+    {"frmRaportKontaWCzasie", "frmRaportKontaWCzasie", "frmRaportKontaWCzasie12", 92, 3,
+     TworzRaportKontWCzasie},
+    {"frmRaportKategorieWCzasie", "frmRaportKategorieWCzasie", "frmRaportKategorieWCzasie12", 85, 2,
+     TworzRaportKategoriiWCzasie},
+    {"frmRaportKontrahentaWCzasie", "frmRaportKontrahentaWCzasie", "frmRaportKontrahentaWCzasie10",
+     81, 2, TworzRaportKontrahentaWCzasie},
     {"frmRaportSumaryczny", "frmRaportSumaryczny", "frmRaportSumaryczny17", 85, 0, TworzRaportSumaryczny},
 };
 
@@ -19,6 +29,8 @@ const FormularzRaportu* FormularzeRaportow(int* ile) {
 }
 
 const FormularzRaportu* ZnajdzFormularz(const QString& ekran) {
+  // The main window knows the account report by the name of the report window itself.
+  if (ekran == QLatin1String("frmRaport")) return ZnajdzFormularz(QStringLiteral("frmRaportKont"));
   for (const FormularzRaportu& f : kFormularze)
     if (ekran == QLatin1String(f.ekran)) return &f;
   return nullptr;

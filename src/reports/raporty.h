@@ -20,6 +20,23 @@ void TworzRaportKontrahenta(Raport& r);
 // that month, with the difference and its per cent, and a total line.
 void TworzRaportSumaryczny(Raport& r);
 
+// What a browser lists, walked line by line: pubZapytanieRaportu when the caller handed one, else
+// the browser's statement of pubTryb (2 executed, else planned), the caller's fragment
+// (pubFiltrTransakcji, pubFiltrTransferow) and pubOkres; entries with the sums of income and
+// expense under them.
+void TworzRaportTransakcji(Raport& r);
+void TworzRaportTransferow(Raport& r);
+// The browsers' statements: newest first, the fragment and the period condition behind "WHERE".
+QString ZapytanieWpisow(int tryb, const QString& filtr, const QString& warunekOkresu);
+QString ZapytanieTransferow(int tryb, const QString& filtr, const QString& warunekOkresu);
+
+// Six months side by side, ending with the month of the time filter's date: balances at each
+// month's end (pubWezelKont as for the account report), sums per category of pubKategoria with a
+// bar chart under each main category, and sums per counterparty (pubKontrahent.id, 0 all).
+void TworzRaportKontWCzasie(Raport& r);
+void TworzRaportKategoriiWCzasie(Raport& r);
+void TworzRaportKontrahentaWCzasie(Raport& r);
+
 // A report form: the name its window is shown by, the stem of its language keys, the width of
 // its rules, the head its printed pages repeat, and the function that writes it.
 struct FormularzRaportu {

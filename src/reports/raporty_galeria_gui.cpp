@@ -15,6 +15,10 @@ std::unique_ptr<QWidget> GaleriaRaportu(const QString& ekran, bool wTrakcie) {
   sesja.pubKategoria.identyfikator = QStringLiteral("Root");
   sesja.pubKategoria.rodzaj = 2;
   sesja.pubKontrahent.id = 0;
+  sesja.pubTryb = 2;
+  sesja.pubZapytanieRaportu.clear();
+  sesja.pubFiltrTransakcji.clear();
+  sesja.pubFiltrTransferow.clear();
   auto okno = std::make_unique<frmRaport>(*ZnajdzFormularz(ekran));
   if (!wTrakcie) {
     okno->TworzRaport();

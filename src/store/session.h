@@ -85,6 +85,9 @@ struct Session {
   int pubWierszTransferu = 0;
   QString pubFiltrTransakcji, pubTytulTransakcji;
   QString pubFiltrTransferow, pubTytulTransferow;
+  // The query a browser hands to the entry or transfer report; empty: the report asks the
+  // browser's own statement of pubTryb, pubFiltrTransakcji (pubFiltrTransferow) and pubOkres.
+  QString pubZapytanieRaportu;
 
   FiltrCzasowyRekord pubFiltrCzasowy;
   Okres pubOkres;

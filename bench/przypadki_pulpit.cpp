@@ -66,12 +66,13 @@ QString stanKontSurowo() {
                              "obrotykont, konta WHERE obrotykont.konto = konta.id"),
               5))
     if (r[0] >= 1 && r[0] <= 6) suma += qint64(r[1] + r[3]) - qint64(r[2] + r[4]);
-  const auto m = surowe(
-      QStringLiteral("SELECT SUM(transakcje.przychod) AS sumprzychod,SUM(transakcje.wydatek) AS "
-                     "sumwydatek FROM transakcje WHERE MONTH(data)=%1 AND YEAR(data)=%2")
-          .arg(kDzis.month())
-          .arg(kDzis.year()),
-      2);
+  // The month's sums: the fastest plain SQL walks its days in the date index.
+  const QDate od(kDzis.year(), kDzis.month(), 1);
+  const auto m =
+      surowe(QStringLiteral("SELECT SUM(przychod), SUM(wydatek) FROM transakcje WHERE "
+                            "data>='%1' AND data<='%2'")
+                 .arg(od.toString(Qt::ISODate), od.addMonths(1).addDays(-1).toString(Qt::ISODate)),
+             2);
   const double p = m.empty() ? 0 : m[0][0], w = m.empty() ? 0 : m[0][1];
   return QStringLiteral("%1 | %2 | %3").arg(suma).arg(grosze(p)).arg(grosze(w));
 }

@@ -46,6 +46,29 @@ QString ZapytaniePrzegladu(RodzajPrzegladu rodzaj, int tryb, const QString& frag
          QStringLiteral("ORDER BY %1.data DESC,%1.id DESC").arg(t);
 }
 
+QString ZapytanieCalegoPrzegladu(RodzajPrzegladu rodzaj, int tryb, const QString& fragment,
+                                 const QString& warunekOkresu) {
+  const QString t = TabelaPrzegladu(rodzaj, tryb);
+  QString sql = ZapytaniePrzegladu(rodzaj, tryb, fragment, warunekOkresu);
+  sql.truncate(sql.lastIndexOf(QStringLiteral("ORDER BY ")));
+  // The table is read straight through, never through one of its indexes.
+  const QString z = rodzaj == RodzajPrzegladu::Transfery ? QStringLiteral("FROM %1,")
+                                                         : QStringLiteral("((%1 INNER");
+  const QString na = rodzaj == RodzajPrzegladu::Transfery
+                         ? QStringLiteral("FROM %1 NOT INDEXED,")
+                         : QStringLiteral("((%1 NOT INDEXED INNER");
+  sql.replace(sql.indexOf(z.arg(t)), z.arg(t).size(), na.arg(t));
+  return sql;
+}
+
+void DanePrzegladu::UporzadkujOdNajnowszych() {
+  std::sort(wiersze_.begin(), wiersze_.end(),
+            [](const WierszPrzegladu& a, const WierszPrzegladu& b) {
+              return a.data != b.data ? a.data > b.data : a.id > b.id;
+            });
+  kolejnosc_.clear();
+}
+
 int DanePrzegladu::LiczbaKolumn() const {
   return rodzaj_ == RodzajPrzegladu::Transfery ? int(KolumnyTransferow::Ile)
                                                : int(KolumnyTransakcji::Ile);

@@ -41,6 +41,12 @@ QString TabelaPrzegladu(RodzajPrzegladu rodzaj, int tryb);
 QString ZapytaniePrzegladu(RodzajPrzegladu rodzaj, int tryb, const QString& fragment,
                            const QString& warunekOkresu);
 
+// The same rows for the whole period (the time filter "Wszystko"), read in the table's own order:
+// on a large store one pass over the table costs a fraction of a walk of the date index with a
+// lookup of every row. UporzadkujOdNajnowszych then gives the statement's order.
+QString ZapytanieCalegoPrzegladu(RodzajPrzegladu rodzaj, int tryb, const QString& fragment,
+                                 const QString& warunekOkresu);
+
 class DanePrzegladu {
  public:
   explicit DanePrzegladu(RodzajPrzegladu rodzaj) : rodzaj_(rodzaj) {}
@@ -54,6 +60,8 @@ class DanePrzegladu {
   // A failed read leaves no rows, is logged and returns false.
   bool Wczytaj(const QString& jetSql, const std::function<void(qint64)>& postep = {});
   void Wyczysc();
+  // Puts the rows read in the statement's order: newest first, within a day highest id first.
+  void UporzadkujOdNajnowszych();
 
   qsizetype Ile() const { return qsizetype(wiersze_.size()); }
   // The row shown at a position (0-based) in the current order.

@@ -231,11 +231,16 @@ void PrzegladWpisowGui::OdswiezMain() {
   pbrPasek_->show();
   model_->Zaczynam();
   lvw_->header()->setSortIndicatorShown(false);
-  dane_.Wczytaj(ZapytaniePrzegladu(rodzaj_, tryb_, fragment_, sesja.pubOkres.warunek),
+  // Everything: the table read straight through and put in order here; a period: the date
+  // index gives its rows in order.
+  const bool wszystko = sesja.pubFiltrCzasowy.rodzaj == 0;
+  dane_.Wczytaj((wszystko ? ZapytanieCalegoPrzegladu : ZapytaniePrzegladu)(
+                    rodzaj_, tryb_, fragment_, sesja.pubOkres.warunek),
                 [this](qint64 ile) {
                   pbrPasek_->setValue(int(std::min<qint64>(ile, pbrPasek_->maximum())));
                   if (pbrPasek_->isVisible()) pbrPasek_->repaint();
                 });
+  if (wszystko) dane_.UporzadkujOdNajnowszych();
   model_->Skonczone();
   PasujListe(lvw_, sesja.pubUstawienia.listajeden, sesja.pubUstawienia.listadwa);
   lblSuma1_->setText(FormatKwoty(double(dane_.Suma1()) / 100.0));

@@ -222,12 +222,14 @@ StanKontPulpitu ObliczStanKont(const QDate& dzis) {
   }
   s.suma = ZGroszy(suma);
 
-  // The calendar month of today, whatever period the filter shows.
+  // The calendar month of today, whatever period the filter shows: its first to its last day,
+  // the same rows as MONTH and YEAR of the date select, found through the date index.
+  const QDate pierwszy(dzis.year(), dzis.month(), 1);
   Rekordy m = pubBaza().Czytaj(
       QStringLiteral("SELECT SUM(transakcje.przychod) AS sumprzychod,SUM(transakcje.wydatek) AS "
-                     "sumwydatek FROM transakcje WHERE MONTH(data)=") +
-      QString::number(dzis.month()) + QStringLiteral(" AND YEAR(data)=") +
-      QString::number(dzis.year()));
+                     "sumwydatek FROM transakcje WHERE data>=#") +
+      ZapisDaty(pierwszy) + QStringLiteral("# AND data<=#") +
+      ZapisDaty(pierwszy.addMonths(1).addDays(-1)) + QStringLiteral("#"));
   s.przychody = PoleRekordu(m, QStringLiteral("sumprzychod"));
   s.wydatki = PoleRekordu(m, QStringLiteral("sumwydatek"));
   s.bilans = ZGroszy(WGroszach(s.przychody) - WGroszach(s.wydatki));

@@ -471,8 +471,6 @@ TEST(Polecenia, CommandsFollowTheirScreens) {
   MagazynTestowy m(2);
   WczytajSetup();
   EXPECT_TRUE(MaPolecenie(QStringLiteral("mnuKreator")));
-  EXPECT_FALSE(MaPolecenie(QStringLiteral("mnuTransakcjeBiezacy(3)")));
-  EXPECT_FALSE(UruchomPolecenie(QStringLiteral("mnuTransakcjeBiezacy(3)")));
   Okres okres;
   QString fragment;
   ZastepczyEkran raport(QStringLiteral("frmRaportTransakcji"), [&](QWidget*) {

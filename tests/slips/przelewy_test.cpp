@@ -15,6 +15,7 @@
 #include "slips/frmWydrukPrzelewu.h"
 #include "slips/przelew.h"
 #include "slips/slownie.h"
+#include "store/tekst.h"
 #include "ui/nawigacja_gui.h"
 
 using namespace testy_wpisow;
@@ -52,11 +53,12 @@ TEST(Przelewy, AmountInWords) {
 }
 
 namespace {
-struct Przelewy : ::testing::Test {
+struct PrzelewZDanymi : ::testing::Test {
   void SetUp() override {
     sesja.pubSeparator = QStringLiteral(",");
-    if (m.Licz(QStringLiteral("SELECT COUNT(*) FROM setup")) == 0)
+    if (m.Licz(QStringLiteral("SELECT COUNT(*) FROM setup")) == 0) {
       ASSERT_TRUE(pubBaza().Wykonaj(QStringLiteral("INSERT INTO setup (imie) VALUES ('')")));
+    }
     ASSERT_TRUE(pubBaza().Wykonaj(QStringLiteral(
         "UPDATE setup SET imie='Jan', nazwisko='O''Brien-Łęcki', ulica='ul. Źródlana 5 ', "
         "miasto='00-950 Łódź', lk='12', bank='10901014', konto='0000123456789012345678901'")));
@@ -94,7 +96,7 @@ QString tekstNa(const std::vector<KsztaltPrzelewu>& k, int x, int y, char pozycj
 
 // The editor fills itself from the planned entry, its counterparty and the user's own data;
 // printing checks the amount, gathers the fields and opens the print-out; nothing is stored.
-TEST_F(Przelewy, EditorFillsChecksAndGathers) {
+TEST_F(PrzelewZDanymi, EditorFillsChecksAndGathers) {
   const qint64 wierszy = m.Licz(QStringLiteral(
       "SELECT (SELECT COUNT(*) FROM transakcje)+(SELECT COUNT(*) FROM zaplanowane)+(SELECT "
       "COUNT(*) FROM kontrahent)"));
@@ -180,7 +182,7 @@ TEST_F(Przelewy, EditorFillsChecksAndGathers) {
 
 // The drawn sheet: every field at its place in both modes, four copies that differ only by their
 // offsets, the transfer and the deposit line, and long texts kept inside their cells.
-TEST_F(Przelewy, SheetPositionsInBothModes) {
+TEST_F(PrzelewZDanymi, SheetPositionsInBothModes) {
   PrzelewRekord p = DanePrzelewu(odbiorca, plan);
   p.tytulem = QStringLiteral("Faktura 12/2026");
   p.kwota = QStringLiteral("1234,05");

@@ -101,7 +101,7 @@ QString miesiacSurowo() {
   {
     Polecenie z(Kontekst().surowa,
                 QStringLiteral("SELECT count(id), sum(przychod), sum(wydatek) FROM zaplanowane "
-                               "WHERE data>='2026-06-01' AND data<'2026-07-01' GROUP BY "
+                               "WHERE data>='2026-12-01' AND data<'2027-01-01' GROUP BY "
                                "substr(data,9,2)"));
     while (z.Wiersz()) {
       ile += z.Liczba(0);
@@ -111,7 +111,7 @@ QString miesiacSurowo() {
   }
   Polecenie z(Kontekst().surowa,
               QStringLiteral("SELECT count(id), sum(kwota) FROM zaplanowanewewnetrzne WHERE "
-                             "data>='2026-06-01' AND data<'2026-07-01' GROUP BY substr(data,9,2)"));
+                             "data>='2026-12-01' AND data<'2027-01-01' GROUP BY substr(data,9,2)"));
   while (z.Wiersz()) {
     ile += z.Liczba(0);
     t += qRound64(z.Rzeczywista(1) * 100);
@@ -150,7 +150,7 @@ PrzelewRekord przelew() {
 Przypadki planowanie(
     95, {
             PrzypadekBench(QStringLiteral("calendar month read, 5 000 planned"),
-                           [] { return miesiac(CzytajMiesiac(6, 2026)); })
+                           [] { return miesiac(CzytajMiesiac(12, 2026)); })
                 .Podloga(miesiacSurowo)
                 .Limit(30)
                 .Przygotuj(przygotujPlanowanie),
@@ -162,7 +162,9 @@ Przypadki planowanie(
                 .Podloga([] {
                   return Surowo(QStringLiteral(
                       "SELECT sum(wydatek)+sum(przychod) FROM transakcje WHERE rodzaj=2 AND "
-                      "data>='2026-05-01' AND data<'2026-06-01'"));
+                      "data>='2026-05-01' AND data<'2026-06-01' AND kategoria IN (SELECT "
+                      "identyfikator FROM kategorie k WHERE rodzaj=2 AND NOT EXISTS (SELECT 1 "
+                      "FROM kategorie c WHERE c.rodzaj=2 AND c.kategoria=k.identyfikator))"));
                 })
                 .Limit(50)
                 .Przygotuj(przygotujPlanowanie),

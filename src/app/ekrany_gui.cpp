@@ -8,8 +8,10 @@
 #include "masterdata/frmPrzegladKategorii.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/frmPrzegladKontrahentow.h"
+#include "planning/planowanie_ekrany_gui.h"
 #include "questions/pytania_ekrany_gui.h"
 #include "reports/frmRaport.h"
+#include "slips/przelewy_ekrany_gui.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "ui/nawigacja_gui.h"
@@ -36,4 +38,6 @@ void ZarejestrujEkrany() {
                          [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
   ZarejestrujRaporty();
   ZarejestrujEkranyPytan();
+  ZarejestrujEkranyPlanowania();
+  ZarejestrujEkranyPrzelewow();
 }

@@ -20,11 +20,13 @@
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/kategorie_galeria_gui.h"
 #include "masterdata/kontrahenci_galeria_gui.h"
+#include "planning/planowanie_galeria_gui.h"
 #include "questions/pytania_galeria_gui.h"
 #include "reports/raporty_galeria_gui.h"
 #include "setup/frmHaslo.h"
 #include "ui/frmMsgBox.h"
 #include "setup/frmStart.h"
+#include "slips/przelewy_galeria_gui.h"
 #include "setup/start_gui.h"
 #include "store/baza.h"
 #include "store/napis.h"
@@ -198,6 +200,14 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmZadajPytanie"), GaleriaPytan},
       {QStringLiteral("frmZadajPytanieEdycja"), GaleriaEdycjiPytania},
       {QStringLiteral("frmUstawieniaInternetowe"), GaleriaUstawienInternetowych},
+      {QStringLiteral("frmKalendarz"), GaleriaKalendarza},
+      {QStringLiteral("frmKalendarz-menu"), GaleriaMenuKalendarza},
+      {QStringLiteral("frmKategorieOszczednosci"), GaleriaSymulacji},
+      {QStringLiteral("frmRaportOszczednosciKategorie"), GaleriaRaportuSymulacji},
+      {QStringLiteral("frmEdycjaPrzelewu"), GaleriaEdycjiPrzelewu},
+      {QStringLiteral("frmWydrukPrzelewu-kartka"), [] { return GaleriaWydrukuPrzelewu(false); }},
+      {QStringLiteral("frmWydrukPrzelewu-formularz"), [] { return GaleriaWydrukuPrzelewu(true); }},
+      {QStringLiteral("frmWydrukPrzelewu-pdf"), GaleriaPdfPrzelewu},
   };
   return w;
 }

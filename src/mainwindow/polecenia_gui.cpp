@@ -272,6 +272,8 @@ QString NazwaPolecenia(const QString& nazwa) {
 }
 
 bool MaPolecenie(const QString& nazwa) {
+  // The payment slip is a Polish form: no other edition offers it.
+  if (NazwaPolecenia(nazwa) == QLatin1String("mnuPrzelew") && sesja.pubJezyk != 1) return false;
   const auto it = tabela().constFind(NazwaPolecenia(nazwa));
   return it != tabela().constEnd() && (it->ekran.isEmpty() || Nawigacja::Dostepny(it->ekran));
 }

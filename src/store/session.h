@@ -43,6 +43,17 @@ struct Ustawienia {
   QString hasloserwisu;
 };
 
+// The payment slip as its editor hands it to the print-out.
+struct PrzelewRekord {
+  int wplata = 0;  // -1 a cash deposit, 0 a transfer
+  QString nazwaOdbiorcy, nazwaOdbiorcyCd, lkOdbiorcy, bankOdbiorcy, kontoOdbiorcy;
+  QString waluta;
+  QString kwota;  // as typed
+  QString nazwaNadawcy, nazwaNadawcyCd, lkNadawcy, bankNadawcy, kontoNadawcy;
+  QString tytulem, tytulemCd;
+  int naFormularzu = 0;  // -1 on the ready-printed form, 0 on a plain sheet
+};
+
 // The time filter in force.
 struct FiltrCzasowyRekord {
   int rodzaj = 2;  // 0 all, 1 day, 2 week, 3 month, 4 quarter, 5 year, 6 range
@@ -113,6 +124,7 @@ struct Session {
   // The payment slip: the recipient and the planned entry it pays (0: none).
   qint64 pubPrzelewKontrahent = 0;
   qint64 pubPrzelewZaplanowana = 0;
+  PrzelewRekord pubPrzelew;
 
   // The first-run wizard: the chosen category set (0 none) and colour profile, the flag that
   // unwinds its stacked windows, the flag that it was finished, and the last size of a step.

@@ -1,0 +1,4 @@
+#pragma once
+// Registers the payment slip screens with the navigation seam: the editor and the print-out.
+
+void ZarejestrujEkranyPrzelewow();

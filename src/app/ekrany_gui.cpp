@@ -3,6 +3,7 @@
 #include "calculator/frmKalkulatorCaly.h"
 #include "ledger/frmEdycjaTransakcji.h"
 #include "ledger/frmEdycjaTransakcjiWewnetrznej.h"
+#include "ledger/ekrany_ksiegi_gui.h"
 #include "masterdata/frmPrzegladKategorii.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/frmPrzegladKontrahentow.h"
@@ -31,5 +32,6 @@ void ZarejestrujEkrany() {
   Nawigacja::Zarejestruj(QStringLiteral("frmKalkulatorCaly"),
                          [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
   ZarejestrujRaporty();
+  ZarejestrujSzablonyParagonOkresowe();
   ZarejestrujEkranyPytan();
 }

@@ -12,6 +12,7 @@
 #include "calculator/frmKalkulator.h"
 #include "calculator/frmKalkulatorCaly.h"
 #include "ledger/edytory_galeria_gui.h"
+#include "ledger/szablony_galeria_gui.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "mainwindow/frmMain.h"
@@ -150,6 +151,14 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmEdycjaTransakcji-zaplanowany"), GaleriaZaplanowanegoWpisu},
       {QStringLiteral("frmEdycjaTransakcjiWewnetrznej-nowy"), GaleriaNowegoTransferu},
       {QStringLiteral("frmEdycjaTransakcjiWewnetrznej-zaplanowany"), GaleriaZaplanowanegoTransferu},
+      {QStringLiteral("frmSzablonyZewnetrzne"), [] { return GaleriaSzablonow(false); }},
+      {QStringLiteral("frmSzablonyZewnetrzne-wybor"), [] { return GaleriaSzablonow(true); }},
+      {QStringLiteral("frmSzablonyWewnetrzne"), GaleriaSzablonowWewnetrznych},
+      {QStringLiteral("frmEdycjaSzablonuZewnetrznego"), GaleriaEdycjiSzablonu},
+      {QStringLiteral("frmEdycjaSzablonuWewnetrznego"), GaleriaEdycjiSzablonuWewnetrznego},
+      {QStringLiteral("frmParagon"), GaleriaParagonu},
+      {QStringLiteral("frmOkresowe"), GaleriaOkresowych},
+      {QStringLiteral("frmEdycjaOkresowych"), GaleriaEdycjiOkresowej},
       {QStringLiteral("frmEdycjaKontrahenta"), [] { return GaleriaEdycjiKontrahenta(false); }},
       {QStringLiteral("frmEdycjaKontrahenta-nowy"), [] { return GaleriaEdycjiKontrahenta(true); }},
       {QStringLiteral("frmPrzegladKontrahentow-browse"),

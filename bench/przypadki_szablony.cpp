@@ -65,17 +65,17 @@ void szablony() {
 }
 
 QString listaNasza() {
-  const auto w = ListaSzablonow(2, QStringLiteral("ab"));
-  return QString::number(w.size());
+  const auto w = ListaSzablonow(2, QStringLiteral("szablon 1"));
+  return QString::number(double(w.size()), 'f', 2);
 }
 QString listaSurowa() {
   return Surowo(QStringLiteral(
       "SELECT COUNT(*) FROM ((szablony INNER JOIN konta ON szablony.konto = konta.id) INNER JOIN "
       "kategorie ON (szablony.rodzaj= kategorie.rodzaj AND szablony.kategoria = "
       "kategorie.identyfikator)) LEFT JOIN kontrahent ON szablony.kontrahent = kontrahent.id "
-      "WHERE szablony.rodzaj=2 AND (kontrahent.skrocona LIKE '%ab%' OR szablony.nazwa LIKE "
-      "'%ab%' OR szablony.opis LIKE '%ab%' OR konta.nazwa LIKE '%ab%' OR kategorie.nazwa LIKE "
-      "'%ab%')"));
+      "WHERE szablony.rodzaj=2 AND (kontrahent.skrocona LIKE '%szablon 1%' OR szablony.nazwa LIKE "
+      "'%szablon 1%' OR szablony.opis LIKE '%szablon 1%' OR konta.nazwa LIKE '%szablon 1%' OR kategorie.nazwa LIKE "
+      "'%szablon 1%')"));
 }
 
 QString paragonNasz() {

@@ -202,6 +202,34 @@ CREATE TABLE szablonywewnetrzne (
   opis TEXT
 );
 
+-- Recurring rules: an income (rodzaj 1), expense (2) or transfer (3) coming back on a schedule;
+-- konto is a transfer's source and nakonto its target. oddaty..dodaty is the period (dodaty empty:
+-- no end); czestotliwosc 1 daily, 2 weekdays, 3 weekly, 4 monthly, 5 quarterly, 6 half-yearly,
+-- 7 yearly; weekend 0 keeps a Saturday or Sunday, 1 moves it to the Friday before, 2 to the Monday
+-- after. wygenerowanodo is the last rule day planned so far.
+CREATE TABLE okresowe (
+  id INTEGER PRIMARY KEY AUTOINCREMENT,
+  rodzaj INTEGER,
+  konto INTEGER,
+  nakonto INTEGER DEFAULT 0,
+  kategoria TEXT,
+  kontrahent INTEGER DEFAULT 0,
+  opis TEXT,
+  kwota REAL DEFAULT 0,
+  oddaty TEXT,
+  dodaty TEXT,
+  czestotliwosc INTEGER,
+  weekend INTEGER DEFAULT 0,
+  wygenerowanodo TEXT
+);
+-- Every day a rule has planned, with the planned row it made: a day is never planned twice.
+CREATE TABLE okresowedni (
+  okresowa INTEGER NOT NULL,
+  data TEXT NOT NULL,
+  wiersz INTEGER,
+  PRIMARY KEY (okresowa, data)
+) WITHOUT ROWID;
+
 CREATE TABLE setup (
   tloaktywne TEXT,
   napisyaktywne TEXT,

@@ -163,6 +163,7 @@ bool MaDaneUzytkownika(const QString& plik, bool* ma, QString* blad) {
                                        "zaplanowanewewnetrzne",
                                        "szablony",
                                        "szablonywewnetrzne",
+                                       "okresowe",
                                        "setup",
                                        "pytania"};
   bool ok = true;

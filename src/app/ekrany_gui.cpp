@@ -5,6 +5,7 @@
 #include "ledger/frmEdycjaTransakcjiWewnetrznej.h"
 #include "ledger/frmPrzegladTransakcji.h"
 #include "ledger/frmPrzegladTransakcjiWewnetrznych.h"
+#include "ledger/ekrany_ksiegi_gui.h"
 #include "masterdata/frmPrzegladKategorii.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/frmPrzegladKontrahentow.h"
@@ -37,6 +38,7 @@ void ZarejestrujEkrany() {
   Nawigacja::Zarejestruj(QStringLiteral("frmKalkulatorCaly"),
                          [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
   ZarejestrujRaporty();
+  ZarejestrujSzablonyParagonOkresowe();
   ZarejestrujEkranyPytan();
   ZarejestrujEkranyPlanowania();
   ZarejestrujEkranyPrzelewow();

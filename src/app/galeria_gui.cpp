@@ -13,6 +13,7 @@
 #include "calculator/frmKalkulatorCaly.h"
 #include "ledger/edytory_galeria_gui.h"
 #include "ledger/przeglad_galeria_gui.h"
+#include "ledger/szablony_galeria_gui.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "mainwindow/frmMain.h"
@@ -164,6 +165,14 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
        [] { return GaleriaPrzegladuTransferow(1, -1); }},
       {QStringLiteral("frmPrzegladTransakcjiWewnetrznych-wg-konta"),
        [] { return GaleriaPrzegladuTransferow(2, 2); }},
+      {QStringLiteral("frmSzablonyZewnetrzne"), [] { return GaleriaSzablonow(false); }},
+      {QStringLiteral("frmSzablonyZewnetrzne-wybor"), [] { return GaleriaSzablonow(true); }},
+      {QStringLiteral("frmSzablonyWewnetrzne"), GaleriaSzablonowWewnetrznych},
+      {QStringLiteral("frmEdycjaSzablonuZewnetrznego"), GaleriaEdycjiSzablonu},
+      {QStringLiteral("frmEdycjaSzablonuWewnetrznego"), GaleriaEdycjiSzablonuWewnetrznego},
+      {QStringLiteral("frmParagon"), GaleriaParagonu},
+      {QStringLiteral("frmOkresowe"), GaleriaOkresowych},
+      {QStringLiteral("frmEdycjaOkresowych"), GaleriaEdycjiOkresowej},
       {QStringLiteral("frmEdycjaKontrahenta"), [] { return GaleriaEdycjiKontrahenta(false); }},
       {QStringLiteral("frmEdycjaKontrahenta-nowy"), [] { return GaleriaEdycjiKontrahenta(true); }},
       {QStringLiteral("frmPrzegladKontrahentow-browse"),

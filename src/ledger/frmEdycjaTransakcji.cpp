@@ -13,8 +13,8 @@
 
 #include "calculator/PoleKwoty_gui.h"
 #include "ledger/edytorwpisu_gui.h"
+#include "ledger/szablony.h"
 #include "ledger/transakcje.h"
-#include "ui/nawigacja_gui.h"
 #include "masterdata/kategorie.h"
 #include "masterdata/konta.h"
 #include "masterdata/kontrahenci.h"
@@ -23,6 +23,7 @@
 #include "store/napis.h"
 #include "store/session.h"
 #include "store/tekst.h"
+#include "ui/nawigacja_gui.h"
 
 namespace {
 
@@ -50,8 +51,9 @@ frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent) : QDialog(parent) {
     cmdWybierzKontrahenta_->setEnabled(false);
     lblKontrahent_->setText(sesja.pubKontrahent.skrocona);
   }
-  // Templates come with their own screen; until then the button stays off.
-  cmdWybierzSzablon_->setEnabled(false);
+  // A template fills a new entry only, and never the counterparty fixed by its browser.
+  cmdWybierzSzablon_->setEnabled(!przedefiniowany && sesja.pubTransakcja.id == 0 &&
+                                 Nawigacja::Dostepny(QStringLiteral("frmSzablonyZewnetrzne")));
   cmdRealizuj_->setVisible(sesja.pubTryb != 2 && sesja.pubTransakcja.id != 0);
 
   if (sesja.pubTransakcja.id == 0) {
@@ -161,6 +163,8 @@ void frmEdycjaTransakcji::zbuduj() {
       przycisk(QStringLiteral("cmdPomoc"), Napis(QStringLiteral("frmEdycjaTransakcji24")), this);
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji64")));
+  connect(cmdWybierzSzablon_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcji::cmdWybierzSzablon_Click);
   connect(cmdRealizuj_, &QPushButton::clicked, this, &frmEdycjaTransakcji::cmdRealizuj_Click);
   connect(cmdOk_, &QPushButton::clicked, this, &frmEdycjaTransakcji::cmdOk_Click);
   connect(cmdAnuluj, &QPushButton::clicked, this, &QDialog::reject);
@@ -249,6 +253,31 @@ void frmEdycjaTransakcji::cmdWybierzKontrahenta_Click() {
   sesja.pubSzczegoly = 0;
   Nawigacja::Pokaz(QStringLiteral("frmPrzegladKontrahentow"), this);
   OdswiezEtykiety();
+}
+
+void frmEdycjaTransakcji::cmdWybierzSzablon_Click() {
+  sesja.pubSzablonId = 0;
+  sesja.pubSzablonRodzaj = sesja.pubTransakcja.rodzaj;
+  sesja.pubSzablonWybor = 1;
+  Nawigacja::Pokaz(QStringLiteral("frmSzablonyZewnetrzne"), this);
+  sesja.pubSzablonWybor = 2;
+  if (sesja.pubSzablonId <= 0) return;
+  const auto s = SzablonDlaWpisu(sesja.pubSzablonId);
+  sesja.pubSzablonId = 0;
+  if (!s) return;
+  // A template carries no amount and no date: both stay as typed.
+  txtOpis_->setMaxLength(std::max(DlugoscOpisu, int(s->opis.size())));
+  txtOpis_->setText(s->opis);
+  sesja.pubKontrahent = s->kontrahent;
+  sesja.pubKategoria.identyfikator = s->kategoria.identyfikator;
+  sesja.pubKategoria.nazwa = s->kategoria.nazwa;
+  sesja.pubKategoria.rodzaj = sesja.pubTransakcja.rodzaj;
+  sesja.pubKonto.id = s->konto.id;
+  sesja.pubKonto.nazwa = s->konto.nazwa;
+  sesja.pubKonto.rodzaj = s->konto.rodzaj;
+  sesja.pubKonto.datautworzenia = DataUtworzeniaKonta(sesja.pubKonto.id);
+  OdswiezEtykiety();
+  sesja.pubKonto.saldo = SaldoKonta(sesja.pubKonto.id);
 }
 
 DaneTransakcji frmEdycjaTransakcji::Dane() const {

@@ -26,6 +26,9 @@ class frmEdycjaTransakcji : public QDialog {
   void cmdWybierzKonto_Click();
   void cmdWybierzKategorie_Click();
   void cmdWybierzKontrahenta_Click();
+  // Takes a template's account, category, counterparty and description; a close of the list
+  // without a choice leaves the form as it was.
+  void cmdWybierzSzablon_Click();
   // The three captions from the chosen records.
   void OdswiezEtykiety();
 

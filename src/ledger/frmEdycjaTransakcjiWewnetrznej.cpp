@@ -12,12 +12,13 @@
 
 #include "calculator/PoleKwoty_gui.h"
 #include "ledger/edytorwpisu_gui.h"
+#include "ledger/szablony.h"
 #include "ledger/transfery.h"
-#include "ui/nawigacja_gui.h"
 #include "masterdata/konta.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/tekst.h"
+#include "ui/nawigacja_gui.h"
 
 namespace {
 
@@ -41,8 +42,9 @@ frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent) 
   }
   cmdRealizuj_->setVisible(sesja.pubTryb != 2 && sesja.pubTransfer != 0);
   sesja.pubEdytorTransferuOtwarty = true;
-  // Templates come with their own screen; until then the button stays off.
-  cmdSzablon_->setEnabled(false);
+  // A template fills a new transfer only.
+  cmdSzablon_->setEnabled(sesja.pubTransfer == 0 &&
+                          Nawigacja::Dostepny(QStringLiteral("frmSzablonyWewnetrzne")));
 
   if (sesja.pubTransfer == 0) {
     dtpData_->setDate(sesja.pubPrzedefiniowanaData.isValid() ? sesja.pubPrzedefiniowanaData
@@ -141,6 +143,8 @@ void frmEdycjaTransakcjiWewnetrznej::zbuduj() {
                             Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej47")), this);
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej50")));
+  connect(cmdSzablon_, &QPushButton::clicked, this,
+          &frmEdycjaTransakcjiWewnetrznej::cmdSzablon_Click);
   connect(cmdRealizuj_, &QPushButton::clicked, this,
           &frmEdycjaTransakcjiWewnetrznej::cmdRealizuj_Click);
   connect(cmdOK_, &QPushButton::clicked, this, &frmEdycjaTransakcjiWewnetrznej::cmdOK_Click);
@@ -190,6 +194,27 @@ void frmEdycjaTransakcjiWewnetrznej::wybierzKonto(KontoRekord& konto, QLabel* et
   sesja.pubKonto = konto;
   Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
   konto = sesja.pubKonto;
+  OdswiezEtykiety();
+}
+
+void frmEdycjaTransakcjiWewnetrznej::cmdSzablon_Click() {
+  sesja.pubSzablonId = 0;
+  sesja.pubSzablonWybor = 1;
+  Nawigacja::Pokaz(QStringLiteral("frmSzablonyWewnetrzne"), this);
+  sesja.pubSzablonWybor = 2;
+  if (sesja.pubSzablonId <= 0) return;
+  const auto s = SzablonDlaTransferu(sesja.pubSzablonId);
+  sesja.pubSzablonId = 0;
+  if (!s) return;
+  // No amount and no date: both stay as typed. The balances are those of the template's
+  // accounts, so that the cover check judges the account the money now leaves.
+  txtOpis_->setMaxLength(std::max(DlugoscOpisu, int(s->opis.size())));
+  txtOpis_->setText(s->opis);
+  for (auto [rekord, z] : {std::pair{&zKonta_, &s->konto}, std::pair{&naKonto_, &s->naKonto}}) {
+    *rekord = *z;
+    rekord->datautworzenia = DataUtworzeniaKonta(rekord->id);
+    rekord->saldo = SaldoKonta(rekord->id);
+  }
   OdswiezEtykiety();
 }
 

@@ -23,6 +23,8 @@ class frmEdycjaTransakcjiWewnetrznej : public QDialog {
 
   void cmdOK_Click();
   void cmdRealizuj_Click();
+  // Takes a template's accounts and description; a close without a choice changes nothing.
+  void cmdSzablon_Click();
   void cmdZKonta_Click();
   void cmdNaKonto_Click();
   void OdswiezEtykiety();

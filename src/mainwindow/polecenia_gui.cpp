@@ -117,6 +117,8 @@ const QHash<QString, Wpis>& tabela() {
             QStringLiteral("frmSzablonyZewnetrzne"), [rodzaj] {
               sesja.pubTransakcja.rodzaj = rodzaj;
               sesja.pubKategoria.rodzaj = rodzaj;
+              sesja.pubSzablonRodzaj = rodzaj;
+              sesja.pubSzablonWybor = 2;
               pokaz(QStringLiteral("frmSzablonyZewnetrzne"));
             });
 

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QScreen>
 
+#include "ledger/okresowe.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/polecenia_gui.h"
 #include "setup/frmHaslo.h"
@@ -75,6 +76,7 @@ Start przypomnienie(StanBazy stan) {
       return {WynikStartu::Koniec, 1};
   }
   sesja.pubSeparator = QLocale::system().decimalPoint();
+  if (stan == StanBazy::Otwarta) GenerujOkresowe();
   ZapiszPrzypomnienia();
   UruchomPrzypominacz();
   return {WynikStartu::Koniec, 0};
@@ -157,6 +159,8 @@ void PrzygotujSesje() {
   PierwszeUruchomienie();
   WczytajSetup();
   sesja.pubUstawienia.imieniny = ImionaDnia();
+  // Recurring rules are planned up to their horizon before anything shows planned rows.
+  GenerujOkresowe();
 }
 
 Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {

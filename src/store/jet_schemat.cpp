@@ -30,6 +30,9 @@ constexpr Tabela kTabele[] = {
      true},
     {"szablony", "id rodzaj konto kontrahent", "kategoria", "nazwa opis", "", true},
     {"szablonywewnetrzne", "id zkonta nakonto", "", "nazwa opis", "", true},
+    {"okresowe", "id rodzaj konto nakonto kontrahent kwota czestotliwosc weekend",
+     "kategoria oddaty dodaty wygenerowanodo", "opis", "", true},
+    {"okresowedni", "okresowa wiersz", "data", "", "", false},
     {"setup", "autostart autostartprzypominacz",
      "tloaktywne napisyaktywne przyciskiaktywne etykietyaktywne napisyetykietaktywne listajeden "
      "listadwa tlonieaktywne napisynieaktywne haslo userid hasloserwisu lk bank konto",

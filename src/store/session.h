@@ -134,6 +134,16 @@ struct Session {
   bool pubKreatorZakonczony = false;
   int pubKreatorSzerokosc = 0, pubKreatorWysokosc = 0;
 
+  // Templates: the one chosen or edited (0: none, or a new one), the kind an entry-template list
+  // shows, picker (1) or maintenance (2), the name under the cursor and the line to re-select.
+  qint64 pubSzablonId = 0;
+  int pubSzablonRodzaj = 2;
+  int pubSzablonWybor = 2;
+  QString pubSzablonNazwa;
+  int pubSzablonWiersz = 0;
+  // The recurring rule being edited (0: a new one).
+  qint64 pubOkresowaId = 0;
+
   // The calculator: the value handed in and out, and where its window goes (screen pixels).
   QString pubKalkWartosc;
   int pubKalkLewa = 0, pubKalkGora = 0;

@@ -1,6 +1,7 @@
 #include "store/start.h"
 
 #include <QStringList>
+#include <sqlcipher/sqlite3.h>
 
 #include "store/baza.h"
 #include "store/dzis.h"
@@ -76,6 +77,7 @@ bool AktualizujBaze() {
     if (!ok) ZapiszLog(QStringLiteral("wersjabazy: the upgrade failed"));
   }
   DodajAdresSerwisu();
+  DodajOkresowe();
   // The masks as the store holds them. A table of another shape, or one without its row, is
   // no reason to stop: the edition's own masks serve, and the log says so.
   const Rekordy rs = b.Czytaj(QStringLiteral(
@@ -104,6 +106,40 @@ bool DodajAdresSerwisu() {
   if (rs.NazwyPol().contains(QStringLiteral("adresserwisu"), Qt::CaseInsensitive)) return true;
   return bool(
       pubBaza().Wykonaj(QStringLiteral("ALTER TABLE setup ADD COLUMN adresserwisu TEXT(255)")));
+}
+
+bool DodajOkresowe() {
+  Baza& b = pubBaza();
+  const Rekordy setup = b.Czytaj(QStringLiteral("SELECT * FROM setup WHERE 1=0"));
+  const bool horyzont =
+      !setup.Ok() ||
+      setup.NazwyPol().contains(QStringLiteral("horyzontokresowych"), Qt::CaseInsensitive);
+  const bool tabela = PoliczIle(QStringLiteral(
+                          "SELECT COUNT(*) AS ile FROM sqlite_master WHERE type='table' AND "
+                          "name='okresowe'")) > 0;
+  if (horyzont && tabela) return true;
+  // The same tables as a new store has (data/schema.sql), added as one change.
+  const bool ok = b.Transakcja([&] {
+    if (!horyzont &&
+        !b.Wykonaj(QStringLiteral("ALTER TABLE setup ADD COLUMN horyzontokresowych INTEGER")))
+      return false;
+    if (tabela) return true;
+    for (const char* sql :
+         {"CREATE TABLE okresowe (id INTEGER PRIMARY KEY AUTOINCREMENT, rodzaj INTEGER, konto "
+          "INTEGER, nakonto INTEGER DEFAULT 0, kategoria TEXT, kontrahent INTEGER DEFAULT 0, opis "
+          "TEXT, kwota REAL DEFAULT 0, oddaty TEXT, dodaty TEXT, czestotliwosc INTEGER, weekend "
+          "INTEGER DEFAULT 0, wygenerowanodo TEXT)",
+          "CREATE TABLE okresowedni (okresowa INTEGER NOT NULL, data TEXT NOT NULL, wiersz "
+          "INTEGER, PRIMARY KEY (okresowa, data)) WITHOUT ROWID"})
+      if (sqlite3_exec(b.Uchwyt(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        ZapiszLog(QStringLiteral("recurring rules: the upgrade failed: %1")
+                      .arg(QString::fromUtf8(sqlite3_errmsg(b.Uchwyt()))));
+        return false;
+      }
+    return true;
+  });
+  if (!ok) ZapiszLog(QStringLiteral("okresowe: the upgrade failed"));
+  return ok;
 }
 
 bool CzyPustaBaza() {

@@ -10,6 +10,9 @@ bool AktualizujBaze();
 // Adds setup's adresserwisu column (the questions service's address, empty for the default) to a
 // store that lacks it; part of AktualizujBaze. False when the store refused.
 bool DodajAdresSerwisu();
+// Adds the recurring rules' tables (okresowe, okresowedni) and setup's horizon column
+// (horyzontokresowych) to a store made before them; the rows already stored stay as they are.
+bool DodajOkresowe();
 // True when there is no category, no account and no counterparty.
 bool CzyPustaBaza();
 // Reads the setup row into the session; inserts the default row when there is none.

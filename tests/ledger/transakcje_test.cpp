@@ -82,7 +82,7 @@ TEST_F(EdytorWpisu, CallerSituationsWriteTheirRows) {
   EXPECT_EQ(Kontrolka<QGroupBox>(f.get(), "fraKonto")->title(),
             Napis(QStringLiteral("frmEdycjaTransakcji49")));
   EXPECT_FALSE(Kontrolka<QPushButton>(f.get(), "cmdRealizuj")->isVisible());
-  EXPECT_FALSE(Kontrolka<QPushButton>(f.get(), "cmdWybierzSzablon")->isEnabled());
+  EXPECT_TRUE(Kontrolka<QPushButton>(f.get(), "cmdWybierzSzablon")->isEnabled());
   EXPECT_EQ(Kontrolka<QDateEdit>(f.get(), "dtpData")->date(), QDate(2026, 11, 3));
   EXPECT_EQ(Kontrolka<QLineEdit>(f.get(), "txtKwota")->text(), QStringLiteral("0.00"));
   EXPECT_EQ(Kontrolka<QLabel>(f.get(), "lblKonto")->text(),

@@ -20,6 +20,7 @@
 #include <QTimer>
 
 #include "common/magazyn_testowy.h"
+#include "ui/nawigacja_gui.h"
 #include "mainwindow/listapulpitu_gui.h"
 #include "mainwindow/panelstanu_gui.h"
 #include "mainwindow/polecenia_gui.h"
@@ -493,7 +494,14 @@ TEST(Polecenia, CommandsFollowTheirScreens) {
   b13->click();
   k.rodzaj = 2;
   EXPECT_EQ(okres.warunek, FiltrCzasowy(k).warunek);
-  EXPECT_FALSE(f.findChild<QPushButton*>(QStringLiteral("cmdMenu(22)"))->isEnabled());
+  // A command whose screen is not registered stays off.
+  EXPECT_TRUE(f.findChild<QPushButton*>(QStringLiteral("cmdMenu(22)"))->isEnabled());
+  const Nawigacja::Ekran paragon = Nawigacja::Zarejestruj(QStringLiteral("frmParagon"), {});
+  {
+    frmMain bez;
+    EXPECT_FALSE(bez.findChild<QPushButton*>(QStringLiteral("cmdMenu(22)"))->isEnabled());
+  }
+  Nawigacja::Zarejestruj(QStringLiteral("frmParagon"), paragon);
 }
 
 // Every numbered key the dashboard builds has a Polish and an English text.

@@ -6,7 +6,7 @@
 #include <sqlcipher/sqlite3.h>
 #include <sys/resource.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -105,9 +105,9 @@ bool przygotujMagazyn(const Opcje& o, const QString& plik) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Fonts (the PDF of a report) need a GUI application; no screen is needed for it.
+  // Fonts (the PDF of a report) and windows (themes) need a GUI application; no screen is needed.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication app(argc, argv);
+  QApplication app(argc, argv);
   Opcje o;
   const QStringList a = app.arguments();
   for (int i = 1; i < a.size(); ++i) {

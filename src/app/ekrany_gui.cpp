@@ -8,6 +8,7 @@
 #include "masterdata/frmPrzegladKontrahentow.h"
 #include "questions/pytania_ekrany_gui.h"
 #include "reports/frmRaport.h"
+#include "setup/ustawienia_ekrany_gui.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "ui/nawigacja_gui.h"
@@ -32,4 +33,5 @@ void ZarejestrujEkrany() {
                          [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
   ZarejestrujRaporty();
   ZarejestrujEkranyPytan();
+  ZarejestrujEkranyUstawien();
 }

@@ -25,6 +25,7 @@
 #include "ui/frmMsgBox.h"
 #include "setup/frmStart.h"
 #include "setup/start_gui.h"
+#include "setup/ustawienia_galeria_gui.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/plik.h"
@@ -101,7 +102,8 @@ std::unique_ptr<QWidget> edycjaKonta(bool nowe) {
 }  // namespace
 
 const std::vector<WpisGalerii>& WpisyGalerii() {
-  static const std::vector<WpisGalerii> w = {
+  static const std::vector<WpisGalerii> w = [] {
+  std::vector<WpisGalerii> w = {
       {QStringLiteral("frmStart"), [] { return std::make_unique<frmStart>(); }},
       {QStringLiteral("frmMain"), oknoGlowne},
       {QStringLiteral("frmMain-menu"), menuGlowne},
@@ -177,6 +179,9 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmZadajPytanieEdycja"), GaleriaEdycjiPytania},
       {QStringLiteral("frmUstawieniaInternetowe"), GaleriaUstawienInternetowych},
   };
+  for (auto& [nazwa, zbuduj] : GaleriaUstawien()) w.push_back({nazwa, zbuduj});
+  return w;
+  }();
   return w;
 }
 

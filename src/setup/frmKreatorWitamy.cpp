@@ -64,6 +64,6 @@ frmKreatorWitamy::frmKreatorWitamy(QWidget* rodzic) : QDialog(rodzic) {
   uklad->addWidget(lblOstrzezenie);
   uklad->addStretch();
   uklad->addLayout(przyciski);
-  resize(620, 480);
+  resize(620, heightForWidth(620) > 0 ? heightForWidth(620) : sizeHint().height());
   cmdDalej->setFocus();
 }

@@ -88,10 +88,11 @@ std::unique_ptr<QWidget> przypomnienia() {
   return std::make_unique<frmPrzypomnienia>(SciezkaPrzypomnien(), QString());
 }
 
+// The help window at the wizard's page, as F1 in a wizard step opens it.
 std::unique_ptr<QWidget> pomoc() {
-  QWidget ustawienia;
-  ustawienia.setObjectName(QStringLiteral("frmKreatorKategorie"));
-  return std::make_unique<frmPomoc>(&ustawienia);
+  auto f = std::make_unique<frmPomoc>();
+  f->PokazStrone(QStringLiteral("kreator"));
+  return f;
 }
 }  // namespace
 

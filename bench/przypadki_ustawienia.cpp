@@ -38,7 +38,7 @@ QString koniecKreatora() {
     ile = PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM kategorie"));
     return false;
   });
-  return QString::number(ile);
+  return QString::number(double(ile), 'f', 2);
 }
 
 QString koniecKreatoraSurowo() {

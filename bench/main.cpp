@@ -141,7 +141,7 @@ bool przygotujMagazyn(const Opcje& o, const QString& plik) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Fonts (the PDF of a report) need a GUI application; no screen is needed for it.
+  // Fonts (the PDF of a report) and windows (themes) need a GUI application; no screen is needed.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   Opcje o;

@@ -13,6 +13,7 @@
 #include "questions/pytania_ekrany_gui.h"
 #include "reports/frmRaport.h"
 #include "slips/przelewy_ekrany_gui.h"
+#include "setup/ustawienia_ekrany_gui.h"
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "ui/nawigacja_gui.h"
@@ -42,4 +43,5 @@ void ZarejestrujEkrany() {
   ZarejestrujEkranyPytan();
   ZarejestrujEkranyPlanowania();
   ZarejestrujEkranyPrzelewow();
+  ZarejestrujEkranyUstawien();
 }

@@ -29,6 +29,7 @@
 #include "setup/frmStart.h"
 #include "slips/przelewy_galeria_gui.h"
 #include "setup/start_gui.h"
+#include "setup/ustawienia_galeria_gui.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/plik.h"
@@ -105,7 +106,8 @@ std::unique_ptr<QWidget> edycjaKonta(bool nowe) {
 }  // namespace
 
 const std::vector<WpisGalerii>& WpisyGalerii() {
-  static const std::vector<WpisGalerii> w = {
+  static const std::vector<WpisGalerii> w = [] {
+  std::vector<WpisGalerii> w = {
       {QStringLiteral("frmStart"), [] { return std::make_unique<frmStart>(); }},
       {QStringLiteral("frmMain"), oknoGlowne},
       {QStringLiteral("frmMain-menu"), menuGlowne},
@@ -218,6 +220,9 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmWydrukPrzelewu-formularz"), [] { return GaleriaWydrukuPrzelewu(true); }},
       {QStringLiteral("frmWydrukPrzelewu-pdf"), GaleriaPdfPrzelewu},
   };
+  for (auto& [nazwa, zbuduj] : GaleriaUstawien()) w.push_back({nazwa, zbuduj});
+  return w;
+  }();
   return w;
 }
 

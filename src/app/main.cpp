@@ -13,6 +13,8 @@
 #include "app/ekrany_gui.h"
 #include "app/galeria_gui.h"
 #include "ui/obrazki_gui.h"
+#include "setup/frmPomoc.h"
+#include "setup/kolorowanie_gui.h"
 #include "setup/start_gui.h"
 #include "store/baza.h"
 #include "store/dzis.h"
@@ -82,6 +84,8 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("Zorvik"));
   QApplication::setWindowIcon(IkonaProgramu());
   ZarejestrujEkrany();
+  WlaczKolorowanieOkien();
+  WlaczPomocF1();
   HostOkienkowy host;
   UstawHostKomunikatow(&host);
 

@@ -14,6 +14,7 @@
 #include "mainwindow/polecenia_gui.h"
 #include "setup/frmHaslo.h"
 #include "setup/frmStart.h"
+#include "setup/kreator.h"
 #include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/dzis.h"
@@ -22,6 +23,7 @@
 #include "store/session.h"
 #include "store/start.h"
 #include "store/zamek.h"
+#include "ui/nawigacja_gui.h"
 
 namespace {
 // The store can't be used: the plain message of the reason (the store's own texts can't be
@@ -144,6 +146,20 @@ ParametryStartu CzytajWierszPolecen(const QStringList& argumenty) {
 
 int JezykSystemu() { return QLocale::system().language() == QLocale::Polish ? 1 : 2; }
 
+void KreatorPierwszegoUruchomienia() {
+  sesja.pubTypKreatora = 0;
+  sesja.pubProfilKreatora = 0;
+  sesja.pubKreatorPrzerwany = false;
+  sesja.pubKreatorZakonczony = false;
+  sesja.pubKreatorSzerokosc = sesja.pubKreatorWysokosc = 0;
+  if (!Nawigacja::Dostepny(QStringLiteral("frmKreatorKategorie"))) return;
+  UkryjStart();
+  Nawigacja::Pokaz(QStringLiteral("frmKreatorWitamy"));
+  Nawigacja::Pokaz(QStringLiteral("frmKreatorKategorie"));
+  // Unfinished: what the wizard made goes, and the next start is again a first run.
+  if (!sesja.pubKreatorZakonczony) PosprzatajPoKreatorze();
+}
+
 void PierwszeUruchomienie() {
   sesja.pubPierwszyStart = CzyPustaBaza();
   // The first-run wizard comes with its own screens; until then an empty store starts with the
@@ -203,7 +219,13 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
     AktualizujBaze();
   }
 
+  // An empty store: the first-run wizard (when its screens are there), before the setup row is
+  // read, so that the colours chosen in it are the ones read.
+  const bool pierwszy = CzyPustaBaza();
+  if (pierwszy) KreatorPierwszegoUruchomienia();
+
   PrzygotujSesje();
+  sesja.pubPierwszyStart = pierwszy;
 
   if (stan == StanBazy::Zablokowana) {
     // Passed already: the store opened with the password.
@@ -238,7 +260,8 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
   UkryjStart();
 
   // On a first run the basic help comes up, once its screen exists.
-  if (sesja.pubPierwszyStart && MaPolecenie(QStringLiteral("mnuPomocPodstawowa")))
+  if (sesja.pubPierwszyStart && sesja.pubKreatorZakonczony &&
+      MaPolecenie(QStringLiteral("mnuPomocPodstawowa")))
     UruchomPolecenie(QStringLiteral("mnuPomocPodstawowa"));
   return {WynikStartu::Dziala, 0};
 }

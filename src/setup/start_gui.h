@@ -47,5 +47,9 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko = {});
 // The session at the start of a run: filter defaults, first-run steps, the setup row, today's
 // names.
 void PrzygotujSesje();
+// The first-run wizard: its state cleared, the welcome and the steps shown; an unfinished
+// wizard's accounts and counterparties deleted. Nothing happens while its screens are not
+// registered.
+void KreatorPierwszegoUruchomienia();
 // The first-run steps: pubPierwszyStart and, on an empty store, the default colours.
 void PierwszeUruchomienie();

@@ -1,5 +1,6 @@
 #include "store/przypomnienia.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -145,5 +146,17 @@ bool UruchomPrzypominacz() {
     folderProgramu.cdUp();
     return QProcess::startDetached(program.absoluteFilePath(), {}, folderProgramu.absolutePath());
   }
+  // Our own companion, built and installed beside the program zorvik (other programs of the
+  // build, the tests among them, have none): told where the file is and in which edition.
+  const QFileInfo towarzysz(QDir(QCoreApplication::applicationDirPath())
+                                .filePath(QStringLiteral("zorvik-przypomnienia")));
+  const bool program =
+      QFileInfo(QCoreApplication::applicationFilePath()).fileName() == QLatin1String("zorvik");
+  if (program && towarzysz.isFile() && towarzysz.isExecutable())
+    return QProcess::startDetached(
+        towarzysz.absoluteFilePath(),
+        {QStringLiteral("--edition"), sesja.pubJezyk == 1 ? QStringLiteral("pl") : QStringLiteral("en"),
+         SciezkaPrzypomnien()},
+        towarzysz.absolutePath());
   return false;
 }

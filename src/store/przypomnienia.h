@@ -15,7 +15,8 @@ bool ZapiszPrzypomnieniaIPowiadom();
 
 
 // Starts the companion (timer, or timer.exe, in the data folder) on its own, from the program's
-// folder. False when it is not there or would not start.
+// folder; without one there, zorvik-przypomnienia beside the program, told the file's path and
+// the edition. False when none is there or it would not start.
 bool UruchomPrzypominacz();
 
 // The reminder file's path: <data folder>/cont.rmd.

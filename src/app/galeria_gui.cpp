@@ -18,6 +18,7 @@
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/kategorie_galeria_gui.h"
+#include "imports/import_galeria_gui.h"
 #include "masterdata/kontrahenci_galeria_gui.h"
 #include "questions/pytania_galeria_gui.h"
 #include "reports/raporty_galeria_gui.h"
@@ -176,6 +177,9 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmZadajPytanie"), GaleriaPytan},
       {QStringLiteral("frmZadajPytanieEdycja"), GaleriaEdycjiPytania},
       {QStringLiteral("frmUstawieniaInternetowe"), GaleriaUstawienInternetowych},
+      {QStringLiteral("frmImport"), GaleriaImportu},
+      {QStringLiteral("frmMapowanieKolumn"), GaleriaMapowaniaKolumn},
+      {QStringLiteral("frmPrzywrocKopie"), GaleriaPrzywracaniaKopii},
   };
   return w;
 }

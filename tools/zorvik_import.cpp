@@ -1,0 +1,20 @@
+// zorvik-import --dane DIR --konto ID [--format auto|csv|mt940|ofx|qif] [--profil NAME]
+//               [--kodowanie auto|cp1250|utf-8] [--zapisz] FILE
+// The statement import without a window (see imports/wiersz_polecen.h).
+
+#include <QCoreApplication>
+#include <QTextStream>
+#include <cstdio>
+
+#include "imports/wiersz_polecen.h"
+#include "store/baza.h"
+
+int main(int argc, char** argv) {
+  QCoreApplication app(argc, argv);
+  QTextStream wyjscie(stdout), bledy(stderr);
+  const int kod = UruchomImport(app.arguments().mid(1), wyjscie, bledy);
+  wyjscie.flush();
+  bledy.flush();
+  ZamknijBaze();
+  return kod;
+}

@@ -174,6 +174,7 @@ bool kopiuj(sqlite3* zrodlo, const QString& folder, PowodKopii powod, const QDat
 struct KopiaWTle {
   std::thread watek;
   QString blad;
+  QString folder;
   bool ok = true;
 };
 KopiaWTle& wTle() {
@@ -206,6 +207,7 @@ bool ZrobKopieStartuWTle() {
   t.blad.clear();
   sqlite3* db = pubBaza().Uchwyt();
   const QString folder = FolderKopii();
+  t.folder = FolderDanych();
   const QDateTime teraz = Teraz();
   t.watek = std::thread([&t, db, folder, teraz] {
     // The connection is serialized: the window's thread waits at most one step of 256 pages.
@@ -219,7 +221,9 @@ void CzekajNaKopie() {
   KopiaWTle& t = wTle();
   if (!t.watek.joinable()) return;
   t.watek.join();
-  if (!t.ok) ZapiszLog(QStringLiteral("backup: %1").arg(BezCytatow(t.blad)));
+  // A copy whose data folder went away meanwhile (another store was opened) has no one to tell.
+  if (!t.ok && QDir(t.folder).exists())
+    ZapiszLog(QStringLiteral("backup: %1").arg(BezCytatow(t.blad)));
   else if (pubBaza().Otwarta())
     UsunNadmiarKopii();
 }

@@ -1,13 +1,12 @@
 #include "imports/wiersz_polecen.h"
 
 #include <QFileInfo>
-#include <QLocale>
 
 #include "imports/import.h"
+#include "imports/kopie.h"
 #include "imports/profile.h"
 #include "store/baza.h"
 #include "store/napis.h"
-#include "store/session.h"
 #include "store/start.h"
 
 namespace {
@@ -18,8 +17,6 @@ QString pole(QString t) {
 }  // namespace
 
 int UruchomImport(const QStringList& argumenty, QTextStream& wyjscie, QTextStream& bledy) {
-  if (sesja.pubJezyk == 0)
-    sesja.pubJezyk = QLocale::system().language() == QLocale::Polish ? 1 : 2;
   auto uzycie = [&](const QString& co) {
     if (!co.isEmpty()) bledy << co << '\n';
     bledy << Napis(QStringLiteral("importcli1")) << '\n';
@@ -69,6 +66,8 @@ int UruchomImport(const QStringList& argumenty, QTextStream& wyjscie, QTextStrea
     bledy << Napis(QStringLiteral("importcli2")).arg(PlikBazy()) << '\n';
     return 1;
   }
+  // An upgrade of the store's structure is preceded by a copy of the store, as at a start.
+  WlaczKopiePrzedAktualizacja();
   AktualizujBaze();
   if (PoliczIle(QStringLiteral("SELECT COUNT(*) AS ile FROM konta WHERE id=%1").arg(konto)) == 0) {
     bledy << Napis(QStringLiteral("importcli3")).arg(konto) << '\n';

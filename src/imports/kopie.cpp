@@ -150,9 +150,15 @@ bool kopiuj(sqlite3* zrodlo, const QString& folder, PowodKopii powod, const QDat
   const QString znacznik = teraz.toString(QStringLiteral("yyyyMMdd-HHmmss"));
   const QString rodzaj = QLatin1String(nazwyPowodow[int(powod)]);
   const QDir d(folder);
-  QString cel = d.filePath(QStringLiteral("money-%1-%2.fns").arg(znacznik, rodzaj));
-  for (int i = 2; QFile::exists(cel); ++i)
-    cel = d.filePath(QStringLiteral("money-%1-%2-%3.fns").arg(znacznik).arg(i).arg(rodzaj));
+  // Copies of one second are numbered on from the highest number that second has had, so
+  // that a name freed by the rotation is never reused out of order.
+  int numer = 0;
+  for (const QString& n : d.entryList({QStringLiteral("money-") + znacznik + QStringLiteral("*.fns")}, QDir::Files)) {
+    const auto m = wzorNazwy().match(n);
+    if (m.hasMatch()) numer = std::max(numer, std::max(1, m.captured(2).toInt()));
+  }
+  QString cel = numer == 0 ? d.filePath(QStringLiteral("money-%1-%2.fns").arg(znacznik, rodzaj))
+                           : d.filePath(QStringLiteral("money-%1-%2-%3.fns").arg(znacznik).arg(numer + 1).arg(rodzaj));
   const QString tymczasowy = cel + QStringLiteral(".czesc");
   QFile::remove(tymczasowy);
   QString b;
@@ -176,6 +182,10 @@ struct KopiaWTle {
   QString blad;
   QString folder;
   bool ok = true;
+  // A run that ends while a copy is being taken waits for it.
+  ~KopiaWTle() {
+    if (watek.joinable()) watek.join();
+  }
 };
 KopiaWTle& wTle() {
   static KopiaWTle k;

@@ -10,7 +10,8 @@ CREATE TABLE konta (
   rodzaj INTEGER,
   bowinien REAL DEFAULT 0,
   boma REAL DEFAULT 0,
-  "limit" REAL DEFAULT 0
+  "limit" REAL DEFAULT 0,
+  numer TEXT
 );
 
 CREATE TABLE transakcje (
@@ -22,7 +23,9 @@ CREATE TABLE transakcje (
   opis TEXT,
   kategoria TEXT,
   konto INTEGER,
-  kontrahent INTEGER DEFAULT 0
+  kontrahent INTEGER DEFAULT 0,
+  idbanku TEXT,
+  importu INTEGER
 );
 -- Covering the period sums: a range of days is read from the index alone. Within a day the rows
 -- stand by id, so that the newest entries are read from its end without sorting anything.
@@ -54,7 +57,8 @@ CREATE TABLE wewnetrzne (
   kwota REAL DEFAULT 0,
   opis TEXT,
   zkonta INTEGER,
-  nakonto INTEGER
+  nakonto INTEGER,
+  importu INTEGER
 );
 CREATE INDEX wewnetrzne_data ON wewnetrzne (data, id, zkonta, nakonto, kwota);
 CREATE INDEX wewnetrzne_zkonta ON wewnetrzne (zkonta, data);
@@ -180,7 +184,8 @@ CREATE TABLE kontrahent (
   telefon TEXT,
   konto TEXT,
   bank TEXT,
-  lk TEXT
+  lk TEXT,
+  importu INTEGER
 );
 CREATE INDEX kontrahent_skrocona ON kontrahent (skrocona);
 
@@ -252,7 +257,8 @@ CREATE TABLE setup (
   bank TEXT,
   konto TEXT,
   autostart INTEGER DEFAULT 0,
-  autostartprzypominacz INTEGER DEFAULT 0
+  autostartprzypominacz INTEGER DEFAULT 0,
+  liczbakopii INTEGER DEFAULT 10
 );
 
 -- The old two-column form; the program adds the eight mask columns on its first start.

@@ -1,6 +1,8 @@
 #include "app/ekrany_gui.h"
 
 #include "calculator/frmKalkulatorCaly.h"
+#include "imports/frmImport.h"
+#include "imports/frmPrzywrocKopie.h"
 #include "ledger/frmEdycjaTransakcji.h"
 #include "ledger/frmEdycjaTransakcjiWewnetrznej.h"
 #include "ledger/frmPrzegladTransakcji.h"
@@ -36,6 +38,8 @@ void ZarejestrujEkrany() {
   modalny<frmPrzegladKontrahentow>("frmPrzegladKontrahentow");
   modalny<frmZmianaDaty>("frmZmianaDaty");
   modalny<frmZakresDat>("frmZakresDat");
+  modalny<frmImport>("frmImport");
+  modalny<frmPrzywrocKopie>("frmPrzywrocKopie");
   Nawigacja::Zarejestruj(QStringLiteral("frmKalkulatorCaly"),
                          [](QWidget* rodzic) { frmKalkulatorCaly::Pokaz(rodzic); });
   ZarejestrujRaporty();

@@ -20,6 +20,7 @@
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/kategorie_galeria_gui.h"
+#include "imports/import_galeria_gui.h"
 #include "masterdata/kontrahenci_galeria_gui.h"
 #include "planning/planowanie_galeria_gui.h"
 #include "questions/pytania_galeria_gui.h"
@@ -219,6 +220,9 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmWydrukPrzelewu-kartka"), [] { return GaleriaWydrukuPrzelewu(false); }},
       {QStringLiteral("frmWydrukPrzelewu-formularz"), [] { return GaleriaWydrukuPrzelewu(true); }},
       {QStringLiteral("frmWydrukPrzelewu-pdf"), GaleriaPdfPrzelewu},
+      {QStringLiteral("frmImport"), GaleriaImportu},
+      {QStringLiteral("frmMapowanieKolumn"), GaleriaMapowaniaKolumn},
+      {QStringLiteral("frmPrzywrocKopie"), GaleriaPrzywracaniaKopii},
   };
   for (auto& [nazwa, zbuduj] : GaleriaUstawien()) w.push_back({nazwa, zbuduj});
   return w;

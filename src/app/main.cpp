@@ -12,6 +12,7 @@
 #include "ui/frmMsgBox.h"
 #include "app/ekrany_gui.h"
 #include "app/galeria_gui.h"
+#include "imports/kopie.h"
 #include "ui/obrazki_gui.h"
 #include "setup/frmPomoc.h"
 #include "setup/kolorowanie_gui.h"
@@ -96,6 +97,9 @@ int main(int argc, char** argv) {
   } else {
     const Start s = Main(p);
     kod = s.wynik == WynikStartu::Dziala ? QApplication::exec() : s.kodWyjscia;
+    // The end of a run that used the store leaves a copy of it behind.
+    CzekajNaKopie();
+    if (s.wynik == WynikStartu::Dziala && pubBaza().Otwarta()) ZrobKopie(PowodKopii::Koniec);
   }
   UstawHostKomunikatow(nullptr);
   ZamknijBaze();

@@ -154,6 +154,9 @@ void frmMain::zbudujMenu() {
   QAction* przelew = polecenie(m, QStringLiteral("mnuPrzelew"), Napis(QStringLiteral("frmMain13")));
   przelew->setVisible(sesja.pubJezyk == 1);
   m->addSeparator();
+  polecenie(m, QStringLiteral("mnuImportWyciagu"), Napis(QStringLiteral("frmMainImport")));
+  polecenie(m, QStringLiteral("mnuPrzywrocKopie"), Napis(QStringLiteral("frmMainKopie")));
+  m->addSeparator();
   QAction* koniec =
       polecenie(m, QStringLiteral("mnuKoniecPracy"), Napis(QStringLiteral("frmMain14")));
   koniec->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

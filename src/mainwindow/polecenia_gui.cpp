@@ -85,6 +85,8 @@ const QHash<QString, Wpis>& tabela() {
       if (MyMsgbox(napis(208), napis(209), MsgTakNie, IkonaPytanie) == WynikTak) ZakonczProgram();
     });
     dodaj(QStringLiteral("mnuKreator"), {}, KreatorPonownie);
+    ekran(QStringLiteral("mnuImportWyciagu"), QStringLiteral("frmImport"));
+    ekran(QStringLiteral("mnuPrzywrocKopie"), QStringLiteral("frmPrzywrocKopie"));
     dodaj(QStringLiteral("mnuPrzychod"), edytor, [] { NowaTransakcja(2, 1); });
     dodaj(QStringLiteral("mnuWydatek"), edytor, [] { NowaTransakcja(2, 2); });
     dodaj(QStringLiteral("mnuPrzychodZaplanowany"), edytor, [] { NowaTransakcja(1, 1); });

@@ -14,6 +14,7 @@
 
 #include "calculator/PoleKwoty_gui.h"
 #include "masterdata/konta.h"
+#include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/session.h"
@@ -65,6 +66,13 @@ frmEdycjaKonta::frmEdycjaKonta(QWidget* parent) : QDialog(parent), id_(sesja.pub
   txtOpis_->setObjectName(QStringLiteral("txtOpis"));
   txtOpis_->setMaxLength(150);
   lblOpis->setBuddy(txtOpis_);
+  auto* lblNumer =
+      etykieta(QStringLiteral("lblNumer"), Napis(QStringLiteral("frmEdycjaKonta35")), this);
+  txtNumer_ = new QLineEdit(this);
+  txtNumer_->setObjectName(QStringLiteral("txtNumer"));
+  txtNumer_->setMaxLength(40);
+  txtNumer_->setPlaceholderText(QStringLiteral("00 0000 0000 0000 0000 0000 0000"));
+  lblNumer->setBuddy(txtNumer_);
 
   // The six kinds, each with its explanation.
   auto* fraRodzaj = new QGroupBox(Napis(QStringLiteral("frmEdycjaKonta4")), this);
@@ -152,6 +160,8 @@ frmEdycjaKonta::frmEdycjaKonta(QWidget* parent) : QDialog(parent), id_(sesja.pub
   gora->addWidget(lblMax, 0, 2);
   gora->addWidget(lblOpis, 1, 0);
   gora->addWidget(txtOpis_, 1, 1, 1, 2);
+  gora->addWidget(lblNumer, 2, 0);
+  gora->addWidget(txtNumer_, 2, 1, 1, 2);
   gora->setColumnStretch(1, 1);
   auto* dol = new QHBoxLayout;
   dol->addWidget(lblData);
@@ -172,6 +182,7 @@ frmEdycjaKonta::frmEdycjaKonta(QWidget* parent) : QDialog(parent), id_(sesja.pub
         pubBaza().Czytaj(QStringLiteral("SELECT * FROM konta WHERE id=") + QString::number(id_));
     txtNazwa_->setText(rs.Tekst(QStringLiteral("nazwa")).trimmed());
     txtOpis_->setText(rs.Tekst(QStringLiteral("opis")).trimmed());
+    txtNumer_->setText(NumerGrupami(rs.Tekst(QStringLiteral("numer"))));
     txtWinien_->setText(FormatKwotyEdycja(PoleRekordu(rs, QStringLiteral("bowinien"))));
     txtMa_->setText(FormatKwotyEdycja(PoleRekordu(rs, QStringLiteral("boma"))));
     txtLimit_->setText(FormatKwotyEdycja(PoleRekordu(rs, QStringLiteral("limit"))));
@@ -194,6 +205,13 @@ frmEdycjaKonta::frmEdycjaKonta(QWidget* parent) : QDialog(parent), id_(sesja.pub
   }
   UstawPola();
   txtNazwa_->setFocus();
+}
+
+QString NumerGrupami(const QString& cyfry) {
+  if (cyfry.size() != 26) return cyfry;
+  QString t = cyfry.left(2);
+  for (int i = 2; i < 26; i += 4) t += QLatin1Char(' ') + cyfry.mid(i, 4);
+  return t;
 }
 
 int frmEdycjaKonta::Rodzaj() const {
@@ -225,9 +243,27 @@ void frmEdycjaKonta::cmdOK_Click() {
   d.winien = txtWinien_->text();
   d.ma = txtMa_->text();
   d.limit = txtLimit_->text();
+  // The account number: empty, or the 26 digits of an NRB (an IBAN's "PL" and blanks aside).
+  QString numer;
+  for (const QChar z : txtNumer_->text())
+    if (z.isDigit()) numer.append(z);
+  if (!numer.isEmpty() && numer.size() != 26) {
+    MyMsgbox(Napis(QStringLiteral("frmEdycjaKonta36")), Napis(QStringLiteral("frmEdycjaKonta37")),
+             MsgOK, IkonaOstrzezenie);
+    txtNumer_->setFocus();
+    return;
+  }
   qint64 nowy = 0;
   if (!ZapiszKontoZPytaniami(d, &nowy)) {
     txtNazwa_->setFocus();
+    return;
+  }
+  const qint64 id = id_ != 0 ? id_ : nowy;
+  if (id && !pubBaza().Wykonaj(QStringLiteral("UPDATE konta SET numer=%1 WHERE id=%2")
+                                   .arg(SqlTekst(numer))
+                                   .arg(id))) {
+    MyMsgbox(Napis(QStringLiteral("frmEdycjaKonta38")), Napis(QStringLiteral("frmEdycjaKonta37")),
+             MsgOK, IkonaOstrzezenie);
     return;
   }
   // The browser behind selects the new account after its refill.

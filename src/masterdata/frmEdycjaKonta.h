@@ -23,6 +23,7 @@ class frmEdycjaKonta : public QDialog {
 
   QLineEdit* txtNazwa_;
   QLineEdit* txtOpis_;
+  QLineEdit* txtNumer_;  // the bank account number (NRB), shown grouped
   QRadioButton* optRodzaj_[7] = {};  // 1..6
   QLineEdit* txtWinien_;
   QLineEdit* txtMa_;
@@ -36,3 +37,7 @@ class frmEdycjaKonta : public QDialog {
   QLabel* lblDataUtworzenia_;
   qint64 id_ = 0;
 };
+
+// An account number of 26 digits grouped as banks print it ("61 1090 1014 ..."); any other
+// text as it is.
+QString NumerGrupami(const QString& cyfry);

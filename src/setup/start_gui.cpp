@@ -10,6 +10,7 @@
 #include <QScreen>
 
 #include "ledger/okresowe.h"
+#include "imports/kopie.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/polecenia_gui.h"
 #include "setup/frmHaslo.h"
@@ -183,6 +184,8 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
   // The edition is fixed for the whole run.
   sesja.pubJezyk = p.jezyk ? p.jezyk : JezykSystemu();
   if (!p.folderDanych.isEmpty()) UstawFolderDanych(p.folderDanych);
+  // An upgrade of the store's structure is preceded by a copy of the store as it was.
+  WlaczKopiePrzedAktualizacja();
 
   // Open the store and bring it up to date; a store that can't be used is told further on.
   const StanBazy stan = OtworzBazeIZbadaj();
@@ -248,6 +251,8 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
     return {WynikStartu::Koniec, 0};
   }
 
+  // The copy of the day's first start, taken while the window is already in use.
+  ZrobKopieStartuWTle();
   auto* okno = new frmMain;
   okno->setAttribute(Qt::WA_DeleteOnClose);
   QObject::connect(okno, &QObject::destroyed, [] { ZakonczNasluch(); });

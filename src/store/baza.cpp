@@ -78,7 +78,8 @@ bool Baza::Otworz(const QString& plik, QString* blad, const QByteArray& klucz,
 }
 
 void Baza::Zamknij() {
-  if (db_) sqlite3_close(db_);
+  // A backup still running in another thread finishes before the connection really closes.
+  if (db_) sqlite3_close_v2(db_);
   db_ = nullptr;
   glebokoscTransakcji_ = 0;
 }

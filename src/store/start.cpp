@@ -54,11 +54,56 @@ QStringList maskiWydania() {
           polski ? QStringLiteral("dd-mmmm-yyyy") : QStringLiteral("mm-dd-yyyy")};
 }
 
+namespace {
+std::function<void()>& przedAktualizacja() {
+  static std::function<void()> f;
+  return f;
+}
+
+struct NowaKolumna {
+  const char* tabela;
+  const char* kolumna;
+  const char* typ;
+};
+const NowaKolumna noweKolumny[] = {{"setup", "adresserwisu", "TEXT(255)"},
+                                   {"konta", "numer", "TEXT"},
+                                   {"transakcje", "idbanku", "TEXT"},
+                                   {"transakcje", "importu", "INTEGER"},
+                                   {"wewnetrzne", "importu", "INTEGER"},
+                                   {"kontrahent", "importu", "INTEGER"},
+                                   {"setup", "liczbakopii", "INTEGER"}};
+
+bool maKolumne(const char* tabela, const char* kolumna) {
+  const Rekordy rs = pubBaza().Czytaj(
+      QStringLiteral("SELECT * FROM %1 WHERE 1=0").arg(QLatin1String(tabela)));
+  return !rs.Ok() || rs.NazwyPol().contains(QLatin1String(kolumna), Qt::CaseInsensitive);
+}
+
+bool dodajKolumne(const NowaKolumna& k) {
+  if (maKolumne(k.tabela, k.kolumna)) return true;
+  return bool(pubBaza().Wykonaj(QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                                    .arg(QLatin1String(k.tabela), QLatin1String(k.kolumna),
+                                         QLatin1String(k.typ))));
+}
+}  // namespace
+
+void UstawPrzedAktualizacja(std::function<void()> przed) { przedAktualizacja() = std::move(przed); }
+
+bool DodajKolumnyImportu() {
+  bool ok = true;
+  for (const NowaKolumna& k : noweKolumny) ok = dodajKolumne(k) && ok;
+  return ok;
+}
+
 bool AktualizujBaze() {
   if (!OtworzBaze()) return false;
   Baza& b = pubBaza();
   const QStringList wartosci = maskiWydania();
   const Rekordy stara = b.Czytaj(QStringLiteral("SELECT * FROM wersjabazy"));
+  // Before any change of structure the store as it stands is copied aside.
+  bool zmiana = stara.Ok() && stara.LiczbaPol() == 2;
+  for (const NowaKolumna& k : noweKolumny) zmiana = zmiana || !maKolumne(k.tabela, k.kolumna);
+  if (zmiana && przedAktualizacja()) przedAktualizacja()();
   if (stara.Ok() && stara.LiczbaPol() == 2) {
     const bool ok = b.Transakcja([&] {
       for (const char* k : kolumnyMasek)
@@ -78,6 +123,7 @@ bool AktualizujBaze() {
   }
   DodajAdresSerwisu();
   DodajOkresowe();
+  DodajKolumnyImportu();
   // The masks as the store holds them. A table of another shape, or one without its row, is
   // no reason to stop: the edition's own masks serve, and the log says so.
   const Rekordy rs = b.Czytaj(QStringLiteral(
@@ -101,11 +147,8 @@ bool AktualizujBaze() {
 }
 
 bool DodajAdresSerwisu() {
-  const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT * FROM setup WHERE 1=0"));
-  if (!rs.Ok()) return false;
-  if (rs.NazwyPol().contains(QStringLiteral("adresserwisu"), Qt::CaseInsensitive)) return true;
-  return bool(
-      pubBaza().Wykonaj(QStringLiteral("ALTER TABLE setup ADD COLUMN adresserwisu TEXT(255)")));
+  if (!pubBaza().Czytaj(QStringLiteral("SELECT * FROM setup WHERE 1=0")).Ok()) return false;
+  return dodajKolumne(noweKolumny[0]);
 }
 
 bool DodajOkresowe() {

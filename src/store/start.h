@@ -3,10 +3,19 @@
 // test, today's name days.
 
 #include <QString>
+#include <functional>
 
 // Adds the eight mask columns to a two-column wersjabazy (with the masks of the edition in
 // force) and reads the masks into the session. False when the store can't be read.
 bool AktualizujBaze();
+// What runs once before the upgrade changes the structure of the store (a copy is taken there);
+// nothing when none is installed.
+void UstawPrzedAktualizacja(std::function<void()> przed);
+// Adds the columns of statement import and backups to a store that lacks them: konta.numer (the
+// bank account number), transakcje.idbanku (the bank's id of an imported line),
+// transakcje/wewnetrzne/kontrahent.importu (the import that wrote the row) and setup.liczbakopii
+// (how many copies are kept). Part of AktualizujBaze. False when the store refused.
+bool DodajKolumnyImportu();
 // Adds setup's adresserwisu column (the questions service's address, empty for the default) to a
 // store that lacks it; part of AktualizujBaze. False when the store refused.
 bool DodajAdresSerwisu();

@@ -41,6 +41,8 @@ MagazynTestowy::MagazynTestowy(int jezyk, const RozmiarProbki* probka) {
   sesja.pubFiltrCzasowy.pozycja = sesja.pubFiltrCzasowy.od = sesja.pubFiltrCzasowy.do_ = Dzis();
   UstawFolderDanych(dir_.path());
   if (!OtworzBaze()) ADD_FAILURE() << "store did not open";
+  // A start run by an earlier test leaves its pre-upgrade copy installed: not here.
+  UstawPrzedAktualizacja({});
   AktualizujBaze();
   dawnyHost_ = UstawHostKomunikatow(&host);
 }

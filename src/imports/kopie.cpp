@@ -1,0 +1,326 @@
+#include "imports/kopie.h"
+
+#include <fcntl.h>
+#include <sqlcipher/sqlite3.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <thread>
+
+#include "store/baza.h"
+#include "store/dziennik.h"
+#include "store/dzis.h"
+#include "store/start.h"
+#include "store/zmiany.h"
+
+namespace {
+const char* const nazwyPowodow[] = {"aktualizacja", "start", "koniec", "przywracanie", "reczna"};
+
+QString systemowy() { return QString::fromLocal8Bit(std::strerror(errno)); }
+
+bool synchronizuj(const QString& sciezka, bool folder) {
+  const int fd = ::open(QFile::encodeName(sciezka).constData(),
+                        (folder ? O_RDONLY | O_DIRECTORY : O_RDONLY) | O_CLOEXEC);
+  if (fd < 0) return false;
+  const bool ok = ::fsync(fd) == 0 || (folder && errno == EINVAL);
+  ::close(fd);
+  return ok;
+}
+
+QByteArray kluczBazy() {
+  const QByteArray k = KluczSesji();
+  return k.isEmpty() ? QByteArray(KluczBazy) : k;
+}
+
+const QRegularExpression& wzorNazwy() {
+  static const QRegularExpression w(
+      QStringLiteral(R"(^money-(\d{8}-\d{6})(?:-(\d+))?-([a-z]+)\.fns$)"));
+  return w;
+}
+
+// Copies the pages of zrodlo into a new file under the store's key. Steps of 256 pages let other
+// users of the connection in between; a step refused because the connection is writing waits.
+bool kopiujStrony(sqlite3* zrodlo, const QString& cel, QString* blad,
+                  const std::function<void()>& krok) {
+  const int fd = ::open(QFile::encodeName(cel).constData(),
+                        O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
+  if (fd < 0) {
+    *blad = systemowy();
+    return false;
+  }
+  ::close(fd);
+  sqlite3* db = nullptr;
+  if (sqlite3_open_v2(cel.toUtf8().constData(), &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+    *blad = QString::fromUtf8(sqlite3_errmsg(db));
+    sqlite3_close(db);
+    return false;
+  }
+  const QByteArray k = kluczBazy();
+  sqlite3_key(db, k.constData(), int(k.size()));
+  sqlite3_backup* b = sqlite3_backup_init(db, "main", zrodlo, "main");
+  if (!b) {
+    *blad = QString::fromUtf8(sqlite3_errmsg(db));
+    sqlite3_close(db);
+    return false;
+  }
+  int kod;
+  int proby = 0;
+  while ((kod = sqlite3_backup_step(b, 256)) == SQLITE_OK || kod == SQLITE_BUSY ||
+         kod == SQLITE_LOCKED) {
+    if (kod != SQLITE_OK) {
+      // The program is writing: wait for its commit, for at most half a minute.
+      if (++proby > 3000) break;
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    if (krok) krok();
+  }
+  if (kod != SQLITE_DONE) *blad = QString::fromUtf8(sqlite3_errstr(kod));
+  sqlite3_backup_finish(b);
+  if (kod == SQLITE_DONE && sqlite3_errcode(db) != SQLITE_OK && sqlite3_errcode(db) != SQLITE_DONE)
+    *blad = QString::fromUtf8(sqlite3_errmsg(db));
+  sqlite3_close(db);
+  return kod == SQLITE_DONE && blad->isEmpty();
+}
+
+}  // namespace
+
+QString FolderKopii() { return QDir(FolderDanych()).filePath(QStringLiteral("kopie")); }
+
+std::vector<Kopia> ListaKopii() {
+  std::vector<Kopia> lista;
+  const QDir d(FolderKopii());
+  for (const QFileInfo& f : d.entryInfoList({QStringLiteral("money-*.fns")}, QDir::Files)) {
+    const auto m = wzorNazwy().match(f.fileName());
+    if (!m.hasMatch()) continue;
+    Kopia k;
+    k.plik = f.absoluteFilePath();
+    k.kiedy = QDateTime::fromString(m.captured(1), QStringLiteral("yyyyMMdd-HHmmss"));
+    k.rozmiar = f.size();
+    for (int i = 0; i < 5; ++i)
+      if (m.captured(3) == QLatin1String(nazwyPowodow[i])) k.powod = PowodKopii(i);
+    k.kolejny = m.captured(2).toInt();
+    if (k.kiedy.isValid()) lista.push_back(k);
+  }
+  std::sort(lista.begin(), lista.end(), [](const Kopia& a, const Kopia& b) {
+    return a.kiedy != b.kiedy ? a.kiedy > b.kiedy : a.kolejny > b.kolejny;
+  });
+  return lista;
+}
+
+int LiczbaKopiiDoZachowania() {
+  if (!pubBaza().Otwarta()) return 10;
+  const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT liczbakopii FROM setup"));
+  const int n = rs.Pole(QStringLiteral("liczbakopii")).toInt();
+  return n > 0 ? n : 10;
+}
+
+bool UstawLiczbeKopii(int liczba) {
+  if (liczba < 1 || liczba > 999) return false;
+  const QString sql = QStringLiteral("UPDATE setup SET liczbakopii=%1").arg(liczba);
+  const WynikZapisu w = pubBaza().Wykonaj(sql);
+  if (!w) return false;
+  if (w.zmienione > 0) return true;
+  // A store without its setup row gets the default one first.
+  WczytajSetup();
+  return pubBaza().Wykonaj(sql).zmienione > 0;
+}
+
+namespace {
+void usunNadmiar(const std::vector<Kopia>& lista, size_t zostaw) {
+  for (size_t i = zostaw; i < lista.size(); ++i) QFile::remove(lista[i].plik);
+}
+
+// The copy itself, touching nothing of the program but the raw connection: it may run in a
+// thread of its own. The error is returned, not logged.
+bool kopiuj(sqlite3* zrodlo, const QString& folder, PowodKopii powod, const QDateTime& teraz,
+            QString* blad, const std::function<void()>& krok) {
+  if (!QDir().mkpath(folder)) {
+    *blad = QStringLiteral("cannot create %1").arg(folder);
+    return false;
+  }
+  QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                    QFileDevice::ExeOwner);
+  const QString znacznik = teraz.toString(QStringLiteral("yyyyMMdd-HHmmss"));
+  const QString rodzaj = QLatin1String(nazwyPowodow[int(powod)]);
+  const QDir d(folder);
+  // Copies of one second are numbered on from the highest number that second has had, so
+  // that a name freed by the rotation is never reused out of order.
+  int numer = 0;
+  for (const QString& n : d.entryList({QStringLiteral("money-") + znacznik + QStringLiteral("*.fns")}, QDir::Files)) {
+    const auto m = wzorNazwy().match(n);
+    if (m.hasMatch()) numer = std::max(numer, std::max(1, m.captured(2).toInt()));
+  }
+  QString cel = numer == 0 ? d.filePath(QStringLiteral("money-%1-%2.fns").arg(znacznik, rodzaj))
+                           : d.filePath(QStringLiteral("money-%1-%2-%3.fns").arg(znacznik).arg(numer + 1).arg(rodzaj));
+  const QString tymczasowy = cel + QStringLiteral(".czesc");
+  QFile::remove(tymczasowy);
+  QString b;
+  if (!kopiujStrony(zrodlo, tymczasowy, &b, krok)) {
+    QFile::remove(tymczasowy);
+    *blad = QStringLiteral("copy to %1 failed: %2").arg(cel, b);
+    return false;
+  }
+  if (!synchronizuj(tymczasowy, false) || ::rename(QFile::encodeName(tymczasowy).constData(),
+                                                   QFile::encodeName(cel).constData()) != 0) {
+    *blad = QStringLiteral("copy to %1 failed: %2").arg(cel, systemowy());
+    QFile::remove(tymczasowy);
+    return false;
+  }
+  synchronizuj(folder, true);
+  return true;
+}
+
+struct KopiaWTle {
+  std::thread watek;
+  QString blad;
+  QString folder;
+  bool ok = true;
+  // A run that ends while a copy is being taken waits for it.
+  ~KopiaWTle() {
+    if (watek.joinable()) watek.join();
+  }
+};
+KopiaWTle& wTle() {
+  static KopiaWTle k;
+  return k;
+}
+}  // namespace
+
+void UsunNadmiarKopii() { usunNadmiar(ListaKopii(), size_t(LiczbaKopiiDoZachowania())); }
+
+bool ZrobKopie(PowodKopii powod, QString* blad, const std::function<void()>& krok) {
+  CzekajNaKopie();
+  QString b;
+  if (!pubBaza().Otwarta()) b = QStringLiteral("the store is not open");
+  const bool ok = b.isEmpty() && kopiuj(pubBaza().Uchwyt(), FolderKopii(), powod, Teraz(), &b, krok);
+  if (!ok) {
+    ZapiszLog(QStringLiteral("backup: %1").arg(BezCytatow(b)));
+    if (blad) *blad = b;
+    return false;
+  }
+  UsunNadmiarKopii();
+  return true;
+}
+
+bool ZrobKopieStartuWTle() {
+  CzekajNaKopie();
+  if (!pubBaza().Otwarta() || JestKopiaZDzisiaj()) return false;
+  KopiaWTle& t = wTle();
+  t.ok = true;
+  t.blad.clear();
+  sqlite3* db = pubBaza().Uchwyt();
+  const QString folder = FolderKopii();
+  t.folder = FolderDanych();
+  const QDateTime teraz = Teraz();
+  t.watek = std::thread([&t, db, folder, teraz] {
+    // The connection is serialized: the window's thread waits at most one step of 256 pages.
+    t.ok = kopiuj(db, folder, PowodKopii::Start, teraz, &t.blad,
+                  [] { std::this_thread::sleep_for(std::chrono::milliseconds(1)); });
+  });
+  return true;
+}
+
+void CzekajNaKopie() {
+  KopiaWTle& t = wTle();
+  if (!t.watek.joinable()) return;
+  t.watek.join();
+  // A copy whose data folder went away meanwhile (another store was opened) has no one to tell.
+  if (!t.ok && QDir(t.folder).exists())
+    ZapiszLog(QStringLiteral("backup: %1").arg(BezCytatow(t.blad)));
+  else if (pubBaza().Otwarta())
+    UsunNadmiarKopii();
+}
+
+bool JestKopiaZDzisiaj() {
+  for (const Kopia& k : ListaKopii())
+    if (k.powod == PowodKopii::Start && k.kiedy.date() == Dzis()) return true;
+  return false;
+}
+
+bool SprawdzKopie(const QString& plik, QString* blad) {
+  QString b;
+  Baza kopia;
+  if (!kopia.Otworz(plik, &b, KluczSesji(), true)) {
+    if (blad) *blad = b;
+    return false;
+  }
+  sqlite3_stmt* st = nullptr;
+  QString wynik;
+  if (sqlite3_prepare_v2(kopia.Uchwyt(), "PRAGMA integrity_check", -1, &st, nullptr) ==
+          SQLITE_OK &&
+      sqlite3_step(st) == SQLITE_ROW)
+    wynik = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+  else
+    wynik = QString::fromUtf8(sqlite3_errmsg(kopia.Uchwyt()));
+  sqlite3_finalize(st);
+  if (wynik != QLatin1String("ok")) {
+    if (blad) *blad = wynik;
+    return false;
+  }
+  // A copy is a store of this program: it has its entries' table.
+  if (!kopia.Czytaj(QStringLiteral("SELECT COUNT(*) AS ile FROM transakcje")).Ok()) {
+    if (blad) *blad = QStringLiteral("not a store of this program");
+    return false;
+  }
+  return true;
+}
+
+std::vector<Kopia> KopieDoPrzywrocenia() {
+  std::vector<Kopia> dobre;
+  for (const Kopia& k : ListaKopii()) {
+    QString blad;
+    if (SprawdzKopie(k.plik, &blad))
+      dobre.push_back(k);
+    else
+      ZapiszLog(QStringLiteral("backup %1 fails its check: %2").arg(k.plik, BezCytatow(blad)));
+  }
+  return dobre;
+}
+
+bool PrzywrocKopie(const QString& plik, QString* blad) {
+  auto porazka = [&](const QString& tekst) {
+    ZapiszLog(QStringLiteral("restore of %1: %2").arg(plik, tekst));
+    if (blad) *blad = tekst;
+    return false;
+  };
+  QString b;
+  if (!SprawdzKopie(plik, &b)) return porazka(QStringLiteral("the copy fails its check: ") + b);
+  if (!OtworzBaze()) return porazka(QStringLiteral("the store is not open"));
+  // The chosen copy is taken aside first: the rotation below may count it out.
+  const QString tymczasowy = PlikBazy() + QStringLiteral(".przywracana");
+  QFile::remove(tymczasowy);
+  if (!QFile::copy(plik, tymczasowy) || !synchronizuj(tymczasowy, false)) {
+    QFile::remove(tymczasowy);
+    return porazka(QStringLiteral("cannot write %1").arg(tymczasowy));
+  }
+  // The file in use now becomes one more copy.
+  if (!ZrobKopie(PowodKopii::Przywracanie, &b)) {
+    QFile::remove(tymczasowy);
+    return porazka(QStringLiteral("the current store could not be kept: ") + b);
+  }
+  QFile::setPermissions(tymczasowy, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+  ZamknijBaze();
+  if (::rename(QFile::encodeName(tymczasowy).constData(),
+               QFile::encodeName(PlikBazy()).constData()) != 0) {
+    const QString s = systemowy();
+    QFile::remove(tymczasowy);
+    OtworzBaze();
+    return porazka(s);
+  }
+  synchronizuj(FolderDanych(), true);
+  if (!OtworzBaze()) return porazka(QStringLiteral("the restored store does not open"));
+  AktualizujBaze();
+  OglosZmiane(~0u);
+  return true;
+}
+
+void WlaczKopiePrzedAktualizacja() {
+  UstawPrzedAktualizacja([] { ZrobKopie(PowodKopii::Aktualizacja); });
+}

@@ -354,6 +354,7 @@ void PrzegladWpisowGui::cmdRaport_Click() {
   else
     sesja.pubFiltrTransakcji = fragment_;
   sesja.pubOkres = FiltrCzasowy(sesja.pubFiltrCzasowy);
+  sesja.pubZapytanieRaportu.clear();  // the report builds the same statement itself
   Nawigacja::Pokaz(t_.raportEkran, this);
   sesja.pubTryb = tryb_;
 }

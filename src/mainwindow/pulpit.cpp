@@ -339,7 +339,7 @@ bool WyczyscWszystkieDane() {
   static const char* const tabele[] = {
       "kategorie",  "konta",      "kontrahent",  "szablony",
       "szablonywewnetrzne", "transakcje", "wewnetrzne", "zaplanowane",
-      "zaplanowanewewnetrzne"};
+      "zaplanowanewewnetrzne", "okresowe", "okresowedni"};
   return pubBaza().Transakcja([] {
     for (const char* t : tabele)
       if (!pubBaza().Wykonaj(QStringLiteral("DELETE FROM ") + QLatin1String(t)).ok) return false;

@@ -37,14 +37,15 @@ int galeria(const ParametryStartu& p) {
                           ? QFile::copy(dostarczony, plik)
                           : ZbudujBaze(QStringLiteral(ZORVIK_DATA_DIR), plik, &blad);
     QFile(plik).setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    const RozmiarProbki r = RozmiarDlaWpisow(2000);
+    RozmiarProbki r = RozmiarDlaWpisow(2000);
+    r.dzienKoncowy = QStringLiteral("2026-11-22");  // executed entries end on the gallery's today
     if (!jest || !GenerujProbke(plik, r, &blad)) {
       std::fprintf(stderr, "zorvik: no store for the gallery: %s\n", qPrintable(blad));
       return 1;
     }
   }
   UstawFolderDanych(folder);
-  UstawDzis(QDate(2026, 11, 22));
+  UstawDzis(QDate(2026, 11, 22));  // the sample's last executed day
   if (!OtworzBaze()) {
     std::fprintf(stderr, "zorvik: cannot open %s\n", qPrintable(PlikBazy()));
     return 1;

@@ -299,8 +299,10 @@ QString PrzegladDnia(const QDate& dzis) {
   for (int i = 0; i < 3; ++i) {
     const Grupa& g = *grupy[i];
     if (g.ile == 0) continue;
+    // The sum stands one blank after the words, whether or not the mask gave it a leading blank.
     tekst += Napis(klucz(221 + 2 * i)) + QString::number(g.ile) + Napis(klucz(222 + 2 * i)) +
-             FormatKwoty(ZGroszy(g.suma)) + QStringLiteral(" :") + koniec + g.linie;
+             QLatin1Char(' ') + FormatKwoty(ZGroszy(g.suma)).trimmed() + QStringLiteral(" :") +
+             koniec + g.linie;
   }
   return tekst;
 }

@@ -320,11 +320,11 @@ TEST(Polecenia, DailyOverview) {
   const QString tekst = PrzegladDnia(dzis);
   const QString oczekiwany =
       napis(216) + data + QStringLiteral(") :\n") + napis(221) + QStringLiteral("1") + napis(222) +
-      FormatKwoty(4500) + QStringLiteral(" :\n") + FormatKwoty(4500) +
+      QStringLiteral(" 4 500.00 :\n") + FormatKwoty(4500) +
       QStringLiteral(" Pensja wypłata\n") + napis(223) + QStringLiteral("2") + napis(224) +
-      FormatKwoty(1200.5) + QStringLiteral(" :\n") + FormatKwoty(1200) +
+      QStringLiteral(" 1 200.50 :\n") + FormatKwoty(1200) +
       QStringLiteral(" Czynsz za mieszkanie\n") + FormatKwoty(0.5) + QStringLiteral(" Czynsz drobne\n") +
-      napis(225) + QStringLiteral("1") + napis(226) + FormatKwoty(250) + QStringLiteral(" :\n") +
+      napis(225) + QStringLiteral("1") + napis(226) + QStringLiteral(" 250.00 :\n") +
       FormatKwoty(250) + QLatin1Char(' ') + napis(214) + QStringLiteral(" Konto ") + napis(215) +
       QStringLiteral(" Skarbonka oszczędności\n");
   EXPECT_EQ(tekst, oczekiwany);

@@ -12,8 +12,11 @@ QString KwotaTabeli(qint64 grosze) { return FormatKwotyEdycja(ZGroszy(grosze)); 
 
 SumyWedlugKategorii::SumyWedlugKategorii(int rodzaj, const QString& warunek) {
   Rekordy rs = pubBaza().Czytaj(
+      // Over the whole time every row of the kind is read: one pass over the table then beats
+      // a look-up per row along the category index.
       QStringLiteral("SELECT kategoria, SUM(przychod) AS sumprzychod, SUM(wydatek) AS sumwydatek "
-                     "FROM transakcje WHERE rodzaj=%1")
+                     "FROM transakcje WHERE %1rodzaj=%2")
+          .arg(warunek.trimmed().isEmpty() ? QStringLiteral("+") : QString())
           .arg(rodzaj) +
       warunek + QStringLiteral(" GROUP BY kategoria"));
   for (; !rs.Eof(); rs.MoveNext()) {

@@ -160,8 +160,7 @@ Przypadki raporty(
             .Podloga([] {
               return Surowo(QStringLiteral(
                   "SELECT sum(przychod), sum(wydatek) FROM transakcje WHERE kontrahent>0 AND "
-                  "data>='2026-01-01' AND data<'2027-01-01' GROUP BY kontrahent ORDER BY "
-                  "kontrahent LIMIT 1"));
+                  "data>='2026-01-01' AND data<'2027-01-01' GROUP BY kontrahent"));
             })
             .Limit(1000)
             .LimitDuzy(5000)

@@ -50,11 +50,12 @@ void TworzRaportSumaryczny(Raport& r) {
                           Napis(QStringLiteral("frmRaportSumaryczny15")),
                           dwie("frmRaportSumaryczny11", "frmRaportSumaryczny16")});
 
+  // In brackets the month and year read as one range of days, which the date index serves.
   const QString poprzedniWarunek =
-      m == 1 ? QStringLiteral(" AND MONTH(data)=12 AND YEAR(data)=%1").arg(y - 1)
-             : QStringLiteral(" AND MONTH(data)=%1 AND YEAR(data)=%2").arg(m - 1).arg(y);
+      m == 1 ? QStringLiteral(" AND (MONTH(data)=12 AND YEAR(data)=%1)").arg(y - 1)
+             : QStringLiteral(" AND (MONTH(data)=%1 AND YEAR(data)=%2)").arg(m - 1).arg(y);
   const QString biezacyWarunek =
-      QStringLiteral(" AND MONTH(data)=%1 AND YEAR(data)=%2").arg(m).arg(y);
+      QStringLiteral(" AND (MONTH(data)=%1 AND YEAR(data)=%2)").arg(m).arg(y);
 
   Rekordy rs = pubBaza().Czytaj(
       QStringLiteral("SELECT nazwa,identyfikator FROM kategorie WHERE rodzaj=%1 AND "

@@ -207,6 +207,16 @@ TEST_F(Raporty, LongAmountsDeepCategoriesAndDeletedRecords) {
                          "Razem" + S(51) + "320,00" + "1000000001 334,55" + "1000000001 014,55" +
                              "312500000 317,05 %"}));
 
+  // Over time a main category's months hold its whole subtree, and a key that differs only in
+  // case (no category has it) is not part of it.
+  Sql(QStringLiteral("INSERT INTO transakcje (data,rodzaj,przychod,wydatek,opis,kategoria,konto) "
+                     "VALUES ('2026-03-12',2,0,5,'','Ab',1)"));
+  const QStringList wCzasie = Napisz("frmRaportKategorieWCzasie");
+  EXPECT_TRUE(wCzasie.contains("Dom" + S(25) + QStringLiteral("       0,00").repeated(4) +
+                               "     300,00" + "1000000001 334,50"))
+      << wCzasie.join(QLatin1Char('\n')).toStdString();
+  Sql(QStringLiteral("DELETE FROM transakcje WHERE kategoria='Ab'"));
+
   // A deleted counterparty keeps its row, with no name, and in detail its own entries.
   sesja.pubKontrahent.id = 0;
   EXPECT_EQ(Napisz("frmRaportKontrahenta")[7], "4" + S(45) + "0,00999999999 999,99");

@@ -1,5 +1,5 @@
 // The entry and transfer reports and the three reports over six months, written whole with no
-// window, beside the figure one of their rows shows computed by hand in SQLite.
+// window, beside plain SQL that reads what the report needs and works out one of its figures.
 
 #include <QDate>
 
@@ -10,6 +10,7 @@
 #include "store/kwota.h"
 #include "store/session.h"
 #include "store/tekst.h"
+#include "surowa.h"
 
 namespace {
 
@@ -58,24 +59,35 @@ QString sumaKolumny(const char* ekran, int kolumna) {
 
 const char* const kCzerwiec = "data>='2026-06-01' AND data<'2026-07-01'";
 
+// What the entry report walks: the browser's rows with their names, newest first; the result is
+// the sums under them.
+QString wpisySurowo(const QString& okres) {
+  qint64 przychody = 0, wydatki = 0;
+  SurowoWiersze(
+      QStringLiteral("SELECT t.id, t.data, t.przychod, t.wydatek, t.opis, k.nazwa, c.skrocona, "
+                     "a.nazwa FROM transakcje t JOIN konta a ON t.konto=a.id JOIN kategorie k ON "
+                     "k.rodzaj=t.rodzaj AND k.identyfikator=t.kategoria LEFT JOIN kontrahent c ON "
+                     "c.id=t.kontrahent WHERE t.%1 ORDER BY t.data DESC, t.id DESC")
+          .arg(okres),
+      [&](const Polecenie& p) {
+        przychody += SurowoGrosze(p, 2);
+        wydatki += SurowoGrosze(p, 3);
+      });
+  return SurowaKwota(przychody) + QStringLiteral(" | ") + SurowaKwota(wydatki);
+}
+
 Przypadki raportyWCzasie(
     71,
     {
         PrzypadekBench(QStringLiteral("entry report, all accounts, month"),
                        [] { return komorki("frmRaportTransakcji", -1, {3, 4}); })
-            .Podloga([] {
-              return Surowo(QStringLiteral("SELECT sum(przychod), sum(wydatek) FROM transakcje "
-                                           "WHERE ") +
-                            QLatin1String(kCzerwiec));
-            })
+            .Podloga([] { return wpisySurowo(QLatin1String(kCzerwiec)); })
             .Limit(1000)
             .Przygotuj([] { okres(3); }),
         PrzypadekBench(QStringLiteral("entry report, all accounts, year"),
                        [] { return komorki("frmRaportTransakcji", -1, {3, 4}); })
             .Podloga([] {
-              return Surowo(QStringLiteral(
-                  "SELECT sum(przychod), sum(wydatek) FROM transakcje WHERE data>='2026-01-01' AND "
-                  "data<'2027-01-01'"));
+              return wpisySurowo(QStringLiteral("data>='2026-01-01' AND data<'2027-01-01'"));
             })
             .Limit(3000)
             .Przygotuj([] { okres(5); }),
@@ -96,30 +108,66 @@ Przypadki raportyWCzasie(
         PrzypadekBench(QStringLiteral("accounts over time, all accounts"),
                        [] { return komorki("frmRaportKontaWCzasie", 1, {6}); })
             .Podloga([] {
-              return Surowo(QStringLiteral(
-                  "SELECT (SELECT sum(bowinien)-sum(boma) FROM konta) + (SELECT "
-                  "sum(przychod)-sum(wydatek) FROM transakcje WHERE data<'2026-07-01')"));
+              // What the report reads: the flows by account before the window and by account
+              // and month in it, and the opening balances.
+              qint64 suma = 0;
+              SurowoWiersze(QStringLiteral("SELECT sum(bowinien)-sum(boma) FROM konta"),
+                            [&](const Polecenie& p) { suma += SurowoGrosze(p, 0); });
+              for (const char* w : {"data<'2026-01-01' GROUP BY konto",
+                                    "data>='2026-01-01' AND data<'2026-07-01' GROUP BY konto, "
+                                    "substr(data,6,2)"})
+                SurowoWiersze(QStringLiteral("SELECT sum(przychod), sum(wydatek) FROM transakcje "
+                                             "WHERE ") +
+                                  QLatin1String(w),
+                              [&](const Polecenie& p) {
+                                suma += SurowoGrosze(p, 0) - SurowoGrosze(p, 1);
+                              });
+              for (const char* w : {"data<'2026-01-01' GROUP BY zkonta, nakonto",
+                                    "data>='2026-01-01' AND data<'2026-07-01' GROUP BY zkonta, "
+                                    "nakonto, substr(data,6,2)"})
+                SurowoWiersze(QStringLiteral("SELECT sum(kwota) FROM wewnetrzne WHERE ") +
+                                  QLatin1String(w),
+                              [](const Polecenie&) {});
+              return SurowaKwota(suma);
             })
             .Limit(1000)
+            .LimitDuzy(5000)
             .Przygotuj([] { okres(3); }),
         PrzypadekBench(QStringLiteral("categories over time, expense tree"),
                        [] { return komorki("frmRaportKategorieWCzasie", 1, {7}); })
             .Podloga([] {
-              return Surowo(QStringLiteral(
-                                "SELECT sum(przychod)+sum(wydatek) FROM transakcje WHERE rodzaj=2 "
-                                "AND kategoria>='a' AND kategoria<'b' AND ") +
-                            QLatin1String(kCzerwiec));
+              // The sums of the window by category and month; the first main category's June.
+              qint64 suma = 0;
+              SurowoWiersze(QStringLiteral("SELECT kategoria, substr(data,6,2), "
+                                           "sum(przychod)+sum(wydatek) FROM transakcje WHERE "
+                                           "rodzaj=2 AND data>='2026-01-01' AND data<'2026-07-01' "
+                                           "GROUP BY kategoria, substr(data,6,2)"),
+                            [&](const Polecenie& p) {
+                              if (p.Tekst(0).startsWith(QLatin1Char('a')) &&
+                                  p.Tekst(1) == QLatin1String("06"))
+                                suma += SurowoGrosze(p, 2);
+                            });
+              return SurowaKwota(suma);
             })
             .Limit(1000)
+            .LimitDuzy(5000)
             .Przygotuj([] { okres(3); }),
         PrzypadekBench(QStringLiteral("counterparties over time, all"),
                        [] { return sumaKolumny("frmRaportKontrahentaWCzasie", 6); })
             .Podloga([] {
-              return Surowo(QStringLiteral("SELECT sum(przychod)+sum(wydatek) FROM transakcje WHERE "
-                                           "kontrahent>0 AND ") +
-                            QLatin1String(kCzerwiec));
+              // The sums of the window by counterparty and month; June of all of them.
+              qint64 suma = 0;
+              SurowoWiersze(QStringLiteral("SELECT kontrahent, substr(data,6,2), "
+                                           "sum(przychod)+sum(wydatek) FROM transakcje WHERE "
+                                           "kontrahent>0 AND data>='2026-01-01' AND "
+                                           "data<'2026-07-01' GROUP BY kontrahent, substr(data,6,2)"),
+                            [&](const Polecenie& p) {
+                              if (p.Tekst(1) == QLatin1String("06")) suma += SurowoGrosze(p, 2);
+                            });
+              return SurowaKwota(suma);
             })
             .Limit(1000)
+            .LimitDuzy(5000)
             .Przygotuj([] { okres(3); }),
     });
 

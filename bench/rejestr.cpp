@@ -6,6 +6,7 @@
 
 #include "store/baza.h"
 #include "store/kwota.h"
+#include "surowa.h"
 
 Przypadki::Przypadki(int kolejnosc, std::vector<PrzypadekBench> przypadki) {
   for (PrzypadekBench& p : przypadki) RejestrBench().push_back({kolejnosc, std::move(p)});
@@ -70,3 +71,14 @@ QString Wiersz(const Rekordy& rs) {
   }
   return w.join(QStringLiteral(" | "));
 }
+
+void SurowoWiersze(const QString& sql, const std::function<void(const Polecenie&)>& wiersz) {
+  Polecenie p(Kontekst().surowa, sql);
+  while (p.Wiersz()) wiersz(p);
+}
+
+qint64 SurowoGrosze(const Polecenie& p, int kolumna) {
+  return qRound64(p.Rzeczywista(kolumna) * 100.0);
+}
+
+QString SurowaKwota(qint64 grosze) { return liczba(double(grosze) / 100.0); }

@@ -66,5 +66,10 @@ void UstawKontekst(const KontekstBench& k);
 // The floor of a read: prepare, step through every row, finalize on the raw connection. The
 // result is the first row, numbers rounded to cents, joined by " | ".
 QString Surowo(const QString& sql);
+// A floor that reads several statements and works its result out: each row of sql handed over in
+// turn (columns from 0, numbers as doubles), and an amount in grosze in the form Surowo gives.
+void SurowoWiersze(const QString& sql, const std::function<void(const class Polecenie&)>& wiersz);
+qint64 SurowoGrosze(const class Polecenie& p, int kolumna);
+QString SurowaKwota(qint64 grosze);
 // The same form of result for a row of the program's recordset.
 QString Wiersz(const class Rekordy& rs);

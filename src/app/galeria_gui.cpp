@@ -200,6 +200,8 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
        [] { return GaleriaRaportu(QStringLiteral("frmRaportKontaWCzasie"), false); }},
       {QStringLiteral("frmRaportKategorieWCzasie"),
        [] { return GaleriaRaportu(QStringLiteral("frmRaportKategorieWCzasie"), false); }},
+      {QStringLiteral("frmRaportKategorieWCzasie-pdf"),
+       [] { return GaleriaPdfRaportu(QStringLiteral("frmRaportKategorieWCzasie")); }},
       {QStringLiteral("frmRaportKontrahentaWCzasie"),
        [] { return GaleriaRaportu(QStringLiteral("frmRaportKontrahentaWCzasie"), false); }},
       {QStringLiteral("frmZmianaDaty"), [] { return std::make_unique<frmZmianaDaty>(); }},
@@ -268,6 +270,7 @@ bool ZapiszGalerie(const QString& folder, QStringList* zapisane, QString* blad) 
     PrzygotujSesje();
     for (const WpisGalerii& wpis : WpisyGalerii()) {
       std::unique_ptr<QWidget> okno = wpis.zbuduj();
+      if (!okno) continue;  // a picture that needs a missing tool; the entry logged why
       okno->setAttribute(Qt::WA_DontShowOnScreen);
       okno->show();
       QApplication::processEvents();

@@ -52,15 +52,15 @@ void TworzRaportKategorii(Raport& r) {
                 .arg(SqlTekst(wybrana + QLatin1Char('*')))
                 .arg(rodzaj));
   r.Maksimum(int(rs.RecordCount()));
-  SumyKategorii sumy;
+  const SumyWedlugKategorii sumy(rodzaj, o.warunek);
   int licznik = 1;
   for (; !rs.Eof(); rs.MoveNext()) {
     if (r.Przerwij(licznik++)) break;
     const QString x = rs.Tekst(QStringLiteral("identyfikator"));
     const QString nazwa = rs.Tekst(QStringLiteral("nazwa"));
-    const qint64 wlasna = sumy.Suma(SumaWlasna(x, rodzaj, o.warunek));
-    const qint64 podrzedne = sumy.Suma(SumaPodrzednych(x, rodzaj, o.warunek));
-    const qint64 galaz = sumy.Suma(SumaPodrzednych(x.left(x.size() - 1), rodzaj, o.warunek));
+    const qint64 wlasna = sumy.Wlasna(x);
+    const qint64 podrzedne = sumy.Podrzednych(x);
+    const qint64 galaz = sumy.Podrzednych(x.left(x.size() - 1));
     const QString procent = udzial(wlasna + podrzedne, galaz);
     const int wciecie = int(x.size() - 1) * 4;
     PoleRaportu(r, QString(), wciecie, 0);
@@ -71,9 +71,10 @@ void TworzRaportKategorii(Raport& r) {
     r.dok.tabela.push_back({x, nazwa.trimmed(), procent, KwotaTabeli(wlasna + podrzedne)});
 
     if (sesja.pubRaportDetaliczny) {
-      r.pubWarunekListy =
-          QStringLiteral("transakcje.kategoria=%1 AND transakcje.rodzaj=%2 ").arg(SqlTekst(x)).arg(rodzaj) +
-          FiltrCzasowy(sesja.pubFiltrCzasowy).warunek;
+      r.pubWarunekListy = QStringLiteral("transakcje.kategoria=%1 AND transakcje.rodzaj=%2 ")
+                              .arg(SqlTekst(x))
+                              .arg(rodzaj) +
+                          FiltrCzasowy(sesja.pubFiltrCzasowy).warunek;
       r.pubOkresListy = o.warunek;
       r.pubKolumnaData = r.pubKolumnaKontrahent = r.pubKolumnaOpis = r.pubKolumnaKonto = true;
       r.pubKolumnaKategoria = false;

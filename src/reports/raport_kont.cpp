@@ -1,6 +1,11 @@
 // The account report: for all accounts, one kind or one account, the balance at the end and at
 // the start of the period and the flows between; for all accounts broken down by kind and by
-// account. Amounts are added in whole grosze.
+// account. Amounts are added in whole grosze. The entries and transfers are summed per account in
+// one grouped pass before the period and one in it, and the rows of kinds and of all accounts add
+// those sums up, instead of six statements per row: the figures are the same.
+
+#include <QHash>
+#include <optional>
 
 #include "reports/raporty.h"
 #include "reports/wspolne.h"
@@ -12,50 +17,100 @@
 
 namespace {
 
-struct Zapytania {
-  QString otwarcie, wpisy, na, z;
+// The opening balances of a row: one account, the accounts of one kind, all accounts.
+QString otwarcieKonta(qint64 n) {
+  return QStringLiteral("SELECT bowinien AS sumabowinien, boma AS sumaboma FROM konta WHERE id=") +
+         QString::number(n);
+}
+QString otwarcieRodzaju(int rodzaj) {
+  return QStringLiteral(
+             "SELECT SUM(bowinien) AS sumabowinien, SUM(boma) AS sumaboma FROM konta WHERE "
+             "rodzaj=") +
+         QString::number(rodzaj);
+}
+QString otwarcieWszystkich() {
+  return QStringLiteral(
+      "SELECT SUM(bowinien) AS sumabowinien, SUM(boma) AS sumaboma FROM konta WHERE id<>0 ");
+}
+
+// The flows of a row before the period and in it.
+struct Przeplywy {
+  qint64 przychodPrzed = 0, wydatekPrzed = 0, naPrzed = 0, zPrzed = 0;
+  qint64 przychod = 0, wydatek = 0, na = 0, z = 0;
+  void Dodaj(const Przeplywy& p) {
+    przychodPrzed += p.przychodPrzed, wydatekPrzed += p.wydatekPrzed;
+    naPrzed += p.naPrzed, zPrzed += p.zPrzed;
+    przychod += p.przychod, wydatek += p.wydatek, na += p.na, z += p.z;
+  }
 };
 
-Zapytania konta(qint64 n) {
-  const QString k = QString::number(n);
-  return {QStringLiteral("SELECT bowinien AS sumabowinien, boma AS sumaboma FROM konta WHERE id=") +
-              k,
-          QStringLiteral("SELECT COUNT(transakcje.id) AS ile,SUM(transakcje.przychod) AS "
-                         "sumprzychod,SUM(transakcje.wydatek) AS sumwydatek FROM transakcje WHERE "
-                         "transakcje.konto=") +
-              k,
-          QStringLiteral("SELECT COUNT(id) AS ile, SUM(kwota) AS suma FROM wewnetrzne WHERE nakonto=") +
-              k,
-          QStringLiteral("SELECT COUNT(id) AS ile, SUM(kwota) AS suma FROM wewnetrzne WHERE zkonta=") +
-              k};
-}
+// The flows of every account, read in four grouped statements. A row of all accounts counts
+// every entry and transfer (those of accounts no longer kept too, and of none); a kind's row
+// counts those of the kept accounts of that kind.
+class PrzeplywyKont {
+ public:
+  // wpisy and transfery narrow the statements to the rows one account needs (empty: all rows).
+  PrzeplywyKont(const Okres& o, const QString& wpisy, const QString& transfery) {
+    // "+konto": the rows before a period are most of the table, read faster from the covering date
+    // index and grouped in memory than looked up one by one along the account index.
+    for (const bool wOkresie : {false, true}) {
+      const QString okres = wOkresie ? o.warunek : o.warunekPrzed;
+      Rekordy rs = pubBaza().Czytaj(
+          QStringLiteral("SELECT konto, id<>0 AS liczony, SUM(przychod) AS sumprzychod, "
+                         "SUM(wydatek) AS sumwydatek FROM transakcje WHERE 1=1 ") +
+          wpisy + okres + QStringLiteral(" GROUP BY +konto, id<>0"));
+      for (; !rs.Eof(); rs.MoveNext()) {
+        const qint64 przychod = Grosze(rs, QStringLiteral("sumprzychod"));
+        const qint64 wydatek = Grosze(rs, QStringLiteral("sumwydatek"));
+        for (Przeplywy* p : {konta(rs.Pole(QStringLiteral("konto"))), wszystkie(rs)}) {
+          if (!p) continue;
+          (wOkresie ? p->przychod : p->przychodPrzed) += przychod;
+          (wOkresie ? p->wydatek : p->wydatekPrzed) += wydatek;
+        }
+      }
+      rs = pubBaza().Czytaj(
+          QStringLiteral("SELECT zkonta, nakonto, id<>0 AS liczony, SUM(kwota) AS suma FROM "
+                         "wewnetrzne WHERE 1=1 ") +
+          transfery + okres + QStringLiteral(" GROUP BY +zkonta, nakonto, id<>0"));
+      for (; !rs.Eof(); rs.MoveNext()) {
+        const qint64 suma = Grosze(rs, QStringLiteral("suma"));
+        for (Przeplywy* p : {konta(rs.Pole(QStringLiteral("nakonto"))), wszystkie(rs)})
+          if (p) (wOkresie ? p->na : p->naPrzed) += suma;
+        for (Przeplywy* p : {konta(rs.Pole(QStringLiteral("zkonta"))), wszystkie(rs)})
+          if (p) (wOkresie ? p->z : p->zPrzed) += suma;
+      }
+    }
+    Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT id,rodzaj FROM konta"));
+    for (; !rs.Eof(); rs.MoveNext()) {
+      const QVariant rodzaj = rs.Pole(QStringLiteral("rodzaj"));
+      if (!rodzaj.isNull())
+        rodzaje_.insert(rs.Pole(QStringLiteral("id")).toLongLong(), rodzaj.toLongLong());
+    }
+  }
 
-Zapytania rodzaju(int rodzaj) {
-  const QString k = QString::number(rodzaj);
-  return {QStringLiteral("SELECT SUM(bowinien) AS sumabowinien, SUM(boma) AS sumaboma FROM konta "
-                         "WHERE rodzaj=") +
-              k,
-          QStringLiteral("SELECT COUNT(transakcje.id) AS ile,SUM(transakcje.przychod) AS "
-                         "sumprzychod,SUM(transakcje.wydatek) AS sumwydatek FROM transakcje,konta "
-                         "WHERE transakcje.konto=konta.id AND konta.rodzaj=") +
-              k,
-          QStringLiteral("SELECT COUNT(wewnetrzne.id) AS ile, SUM(kwota) AS suma FROM "
-                         "wewnetrzne,konta WHERE (nakonto=konta.id AND konta.rodzaj=%1)")
-              .arg(k),
-          QStringLiteral("SELECT COUNT(wewnetrzne.id) AS ile, SUM(kwota) AS suma FROM "
-                         "wewnetrzne,konta WHERE (zkonta=konta.id AND konta.rodzaj=%1)")
-              .arg(k)};
-}
+  Przeplywy Konta(qint64 n) const { return konta_.value(n); }
+  Przeplywy Rodzaju(int rodzaj) const {
+    Przeplywy w;
+    for (auto it = konta_.cbegin(); it != konta_.cend(); ++it)
+      if (auto k = rodzaje_.constFind(it.key()); k != rodzaje_.cend() && *k == rodzaj) w.Dodaj(*it);
+    return w;
+  }
+  const Przeplywy& Wszystkie() const { return wszystkie_; }
 
-Zapytania wszystkich() {
-  return {QStringLiteral(
-              "SELECT SUM(bowinien) AS sumabowinien, SUM(boma) AS sumaboma FROM konta WHERE id<>0 "),
-          QStringLiteral("SELECT COUNT(transakcje.id) AS ile,SUM(transakcje.przychod) AS "
-                         "sumprzychod,SUM(transakcje.wydatek) AS sumwydatek FROM transakcje WHERE "
-                         "id<>0 "),
-          QStringLiteral("SELECT COUNT(id) AS ile, SUM(kwota) AS suma FROM wewnetrzne WHERE id<>0 "),
-          QStringLiteral("SELECT COUNT(id) AS ile, SUM(kwota) AS suma FROM wewnetrzne WHERE id<>0 ")};
-}
+ private:
+  QHash<qint64, Przeplywy> konta_;
+  QHash<qint64, qint64> rodzaje_;  // the kind of every kept account
+  Przeplywy wszystkie_;
+
+  // A row with no account number belongs to no account.
+  Przeplywy* konta(const QVariant& numer) {
+    return numer.isNull() ? nullptr : &konta_[numer.toLongLong()];
+  }
+  // The rows of all accounts leave out a row numbered 0.
+  Przeplywy* wszystkie(const Rekordy& rs) {
+    return rs.Pole(QStringLiteral("liczony")).toInt() ? &wszystkie_ : nullptr;
+  }
+};
 
 class RaportKont {
  public:
@@ -66,16 +121,27 @@ class RaportKont {
     const QChar typ = wezel.isEmpty() ? QLatin1Char('R') : wezel[0];
     const int rodzaj = wezel.right(1).toInt();
     wciecie_ = 0;
+    if (typ == QLatin1Char('q')) {
+      // One account reads its own rows only, by the account indexes.
+      const QString n = QString::number(sesja.pubKonto.id);
+      ruchy_.emplace(sesja.pubOkres, QStringLiteral(" AND konto=") + n,
+                     QStringLiteral(" AND (zkonta=%1 OR nakonto=%1)").arg(n));
+    } else {
+      ruchy_.emplace(sesja.pubOkres, QString(), QString());
+    }
     if (typ == QLatin1Char('r')) {
-      zapytania_ = rodzaju(rodzaj);
+      otwarcie_ = otwarcieRodzaju(rodzaj);
+      przeplywy_ = ruchy_->Rodzaju(rodzaj);
       nazwa_ = NazwaRodzajuKonta(rodzaj);
       konto_ = 0;
     } else if (typ == QLatin1Char('q')) {
-      zapytania_ = konta(sesja.pubKonto.id);
+      otwarcie_ = otwarcieKonta(sesja.pubKonto.id);
+      przeplywy_ = ruchy_->Konta(sesja.pubKonto.id);
       nazwa_ = sesja.pubKonto.nazwa;
       konto_ = sesja.pubKonto.id;
     } else {
-      zapytania_ = wszystkich();
+      otwarcie_ = otwarcieWszystkich();
+      przeplywy_ = ruchy_->Wszystkie();
       nazwa_ = Napis(QStringLiteral("frmRaport8"));
       konto_ = 0;
     }
@@ -86,7 +152,8 @@ class RaportKont {
     if (typ == QLatin1Char('R')) {
       for (int k = 1; k <= 6; ++k) {
         r_.Opis(Napis(QStringLiteral("frmRaport22")) + QLatin1Char(' ') + NazwaRodzajuKonta(k));
-        zapytania_ = rodzaju(k);
+        otwarcie_ = otwarcieRodzaju(k);
+        przeplywy_ = ruchy_->Rodzaju(k);
         nazwa_ = NazwaRodzajuKonta(k);
         konto_ = 0;
         wciecie_ = 1;
@@ -101,7 +168,9 @@ class RaportKont {
 
  private:
   Raport& r_;
-  Zapytania zapytania_;
+  std::optional<PrzeplywyKont> ruchy_;
+  QString otwarcie_;
+  Przeplywy przeplywy_;
   QString nazwa_;
   qint64 konto_ = 0;
   int wciecie_ = 0;
@@ -121,33 +190,26 @@ class RaportKont {
     LiniaRaportu(r_, r_.pubSzerokoscRaportu, false);
     r_.dok.ZakonczNaglowek();
     const auto dwie = [](const char* a, const char* b) {
-      return (Napis(QLatin1String(a)).trimmed() + QLatin1Char(' ') + Napis(QLatin1String(b)).trimmed())
+      return (Napis(QLatin1String(a)).trimmed() + QLatin1Char(' ') +
+              Napis(QLatin1String(b)).trimmed())
           .trimmed();
     };
-    r_.dok.tabela.push_back({Napis(QStringLiteral("frmRaport14")).trimmed(),
-                             dwie("frmRaport9", "frmRaport15"), dwie("frmRaport10", "frmRaport16"),
-                             Napis(QStringLiteral("frmRaport17")).trimmed(),
-                             Napis(QStringLiteral("frmRaport18")).trimmed(),
-                             dwie("frmRaport11", "frmRaport19"), dwie("frmRaport12", "frmRaport20"),
-                             Napis(QStringLiteral("frmRaport21")).trimmed()});
+    r_.dok.tabela.push_back(
+        {Napis(QStringLiteral("frmRaport14")).trimmed(), dwie("frmRaport9", "frmRaport15"),
+         dwie("frmRaport10", "frmRaport16"), Napis(QStringLiteral("frmRaport17")).trimmed(),
+         Napis(QStringLiteral("frmRaport18")).trimmed(), dwie("frmRaport11", "frmRaport19"),
+         dwie("frmRaport12", "frmRaport20"), Napis(QStringLiteral("frmRaport21")).trimmed()});
   }
 
   void WierszKonta() {
     const Okres& o = sesja.pubOkres;
-    Rekordy rs = pubBaza().Czytaj(zapytania_.otwarcie);
+    const Rekordy rs = pubBaza().Czytaj(otwarcie_);
     const qint64 bowinien = Grosze(rs, QStringLiteral("sumabowinien"));
     const qint64 boma = Grosze(rs, QStringLiteral("sumaboma"));
-    rs = pubBaza().Czytaj(zapytania_.wpisy + o.warunekPrzed);
-    const qint64 przychodPrzed = Grosze(rs, QStringLiteral("sumprzychod"));
-    const qint64 wydatekPrzed = Grosze(rs, QStringLiteral("sumwydatek"));
-    const qint64 naPrzed = Grosze(pubBaza().Czytaj(zapytania_.na + o.warunekPrzed), QStringLiteral("suma"));
-    const qint64 zPrzed = Grosze(pubBaza().Czytaj(zapytania_.z + o.warunekPrzed), QStringLiteral("suma"));
-    rs = pubBaza().Czytaj(zapytania_.wpisy + o.warunek);
-    const qint64 przychod = Grosze(rs, QStringLiteral("sumprzychod"));
-    const qint64 wydatek = Grosze(rs, QStringLiteral("sumwydatek"));
-    const qint64 na = Grosze(pubBaza().Czytaj(zapytania_.na + o.warunek), QStringLiteral("suma"));
-    const qint64 z = Grosze(pubBaza().Czytaj(zapytania_.z + o.warunek), QStringLiteral("suma"));
-    const qint64 poczatek = bowinien - boma + przychodPrzed - wydatekPrzed + naPrzed - zPrzed;
+    const Przeplywy& p = przeplywy_;
+    const qint64 poczatek =
+        bowinien - boma + p.przychodPrzed - p.wydatekPrzed + p.naPrzed - p.zPrzed;
+    const qint64 przychod = p.przychod, wydatek = p.wydatek, na = p.na, z = p.z;
     const qint64 koniec = poczatek + przychod - wydatek + na - z;
 
     PoleRaportu(r_, QString(wciecie_, QLatin1Char(' ')), wciecie_, 0);
@@ -182,7 +244,8 @@ class RaportKont {
     for (; !rs.Eof(); rs.MoveNext()) {
       if (r_.Przerwij(licznik++)) break;
       konto_ = rs.Pole(QStringLiteral("id")).toLongLong();
-      zapytania_ = konta(konto_);
+      otwarcie_ = otwarcieKonta(konto_);
+      przeplywy_ = ruchy_->Konta(konto_);
       nazwa_ = rs.Tekst(QStringLiteral("nazwa"));
       wciecie_ = 3;
       WierszKonta();

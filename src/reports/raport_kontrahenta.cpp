@@ -2,9 +2,9 @@
 // all; the detailed report lists each one's entries. Entries with no counterparty never count,
 // and neither do planned ones.
 
+#include "masterdata/kontrahenci.h"
 #include "reports/raporty.h"
 #include "reports/wspolne.h"
-#include "masterdata/kontrahenci.h"
 #include "store/baza.h"
 #include "store/filtr.h"
 #include "store/napis.h"
@@ -44,8 +44,11 @@ void TworzRaportKontrahenta(Raport& r) {
     const int numer = ++licznik;
     if (r.Przerwij(numer - 1)) break;
     KontrahentRekord k;
-    k.id = rs.Pole(QStringLiteral("numerkontrahenta")).toLongLong();
-    const QString nazwa = OpisKontrahenta(k);
+    const qint64 id = rs.Pole(QStringLiteral("numerkontrahenta")).toLongLong();
+    k.id = id;
+    // A deleted counterparty keeps its row, with an empty name.
+    OpisKontrahenta(k);
+    const QString nazwa = k.skrocona;
     const qint64 przychod = Grosze(rs, QStringLiteral("sumprzychod"));
     const qint64 wydatek = Grosze(rs, QStringLiteral("sumwydatek"));
     PoleRaportu(r, QString::number(numer), 4, 0);
@@ -57,7 +60,7 @@ void TworzRaportKontrahenta(Raport& r) {
         {QString::number(numer), nazwa.trimmed(), KwotaTabeli(przychod), KwotaTabeli(wydatek)});
 
     if (sesja.pubRaportDetaliczny) {
-      r.pubWarunekListy = QStringLiteral("transakcje.kontrahent=%1 ").arg(k.id) +
+      r.pubWarunekListy = QStringLiteral("transakcje.kontrahent=%1 ").arg(id) +
                           FiltrCzasowy(sesja.pubFiltrCzasowy).warunek;
       r.pubOkresListy = o.warunek;
       r.pubKolumnaData = r.pubKolumnaKategoria = r.pubKolumnaOpis = true;

@@ -40,7 +40,8 @@ void TworzRaportSumaryczny(Raport& r) {
   r.dok.ZakonczNaglowek();
   r.dok.szerokosc = kSzerokosc;
   const auto dwie = [](const char* a, const char* b) {
-    return (Napis(QLatin1String(a)).trimmed() + QLatin1Char(' ') + Napis(QLatin1String(b)).trimmed())
+    return (Napis(QLatin1String(a)).trimmed() + QLatin1Char(' ') +
+            Napis(QLatin1String(b)).trimmed())
         .trimmed();
   };
   r.dok.tabela.push_back({Napis(QStringLiteral("frmRaportSumaryczny12")),
@@ -49,32 +50,31 @@ void TworzRaportSumaryczny(Raport& r) {
                           Napis(QStringLiteral("frmRaportSumaryczny15")),
                           dwie("frmRaportSumaryczny11", "frmRaportSumaryczny16")});
 
+  // In brackets the month and year read as one range of days, which the date index serves.
   const QString poprzedniWarunek =
-      m == 1 ? QStringLiteral(" AND MONTH(data)=12 AND YEAR(data)=%1").arg(y - 1)
-             : QStringLiteral(" AND MONTH(data)=%1 AND YEAR(data)=%2").arg(m - 1).arg(y);
-  const QString biezacyWarunek = QStringLiteral(" AND MONTH(data)=%1 AND YEAR(data)=%2").arg(m).arg(y);
+      m == 1 ? QStringLiteral(" AND (MONTH(data)=12 AND YEAR(data)=%1)").arg(y - 1)
+             : QStringLiteral(" AND (MONTH(data)=%1 AND YEAR(data)=%2)").arg(m - 1).arg(y);
+  const QString biezacyWarunek =
+      QStringLiteral(" AND (MONTH(data)=%1 AND YEAR(data)=%2)").arg(m).arg(y);
 
   Rekordy rs = pubBaza().Czytaj(
       QStringLiteral("SELECT nazwa,identyfikator FROM kategorie WHERE rodzaj=%1 AND "
                      "LEN(identyfikator)<2 ORDER BY identyfikator ")
           .arg(rodzaj));
   r.Maksimum(int(rs.RecordCount()));
-  SumyKategorii sumy;
+  const SumyWedlugKategorii poprzednie(rodzaj, poprzedniWarunek);
+  const SumyWedlugKategorii biezace(rodzaj, biezacyWarunek);
   qint64 sumaPoprzednia = 0, sumaBiezaca = 0;
   int licznik = 1;
   for (; !rs.Eof(); rs.MoveNext()) {
     if (r.Przerwij(licznik++)) break;
     const QString x = rs.Tekst(QStringLiteral("identyfikator"));
     const QString nazwa = rs.Tekst(QStringLiteral("nazwa"));
-    const auto suma = [&](const QString& warunek) {
-      return sumy.Suma(SumaWlasna(x, rodzaj, warunek)) +
-             sumy.Suma(SumaPodrzednych(x, rodzaj, warunek));
-    };
-    const qint64 poprzedni = suma(poprzedniWarunek);
-    const qint64 galaz = sumy.Suma(SumaPodrzednych(QString(), rodzaj, poprzedniWarunek));
-    const QString udzial =
-        galaz != 0 ? FormatLiczby(double(poprzedni) / double(galaz) * 100.0, QStringLiteral("##0.00"))
-                   : QString();
+    const qint64 poprzedni = poprzednie.Wlasna(x) + poprzednie.Podrzednych(x);
+    const qint64 galaz = poprzednie.Podrzednych(QString());
+    const QString udzial = galaz != 0 ? FormatLiczby(double(poprzedni) / double(galaz) * 100.0,
+                                                     QStringLiteral("##0.00"))
+                                      : QString();
     const int wciecie = int(x.size() - 1) * 4;
     PoleRaportu(r, QString(), wciecie, 0);
     PoleRaportu(r, nazwa + QStringLiteral(" (") + udzial + QStringLiteral(" %)"), 30, 0);
@@ -82,7 +82,7 @@ void TworzRaportSumaryczny(Raport& r) {
     PoleRaportu(r, KwotaRaportu(poprzedni), -12, 0);
     sumaPoprzednia += poprzedni;
 
-    const qint64 biezacy = suma(biezacyWarunek);
+    const qint64 biezacy = biezace.Wlasna(x) + biezace.Podrzednych(x);
     sumaBiezaca += biezacy;
     PoleRaportu(r, KwotaRaportu(biezacy), -15, 0);
     PoleRaportu(r, KwotaRaportu(biezacy - poprzedni), -15, 0);

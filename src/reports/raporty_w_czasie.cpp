@@ -344,10 +344,11 @@ void TworzRaportKategoriiWCzasie(Raport& r) {
     if (r.Przerwij(licznik++)) break;
     const QString x = rs.Tekst(QStringLiteral("identyfikator"));
     const QString nazwa = rs.Tekst(QStringLiteral("nazwa"));
-    // The category with all its descendants: every key that begins with its own.
+    // The category with all its descendants: every key that begins with its own, letter for
+    // letter as the keys compare.
     Szesc szesc{};
     for (auto it = sumy.cbegin(); it != sumy.cend(); ++it)
-      if (it.key().startsWith(x, Qt::CaseInsensitive))
+      if (it.key().startsWith(x))
         for (size_t k = 0; k < 7; ++k) szesc[k] += (*it)[k];
     const int wciecie = int(x.size() - 1) * 4;
     PoleRaportu(r, QString(), wciecie, 0);

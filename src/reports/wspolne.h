@@ -1,8 +1,8 @@
 #pragma once
-// Small pieces the report forms share: amounts read and added in whole grosze, and the two sums
-// of one statement, each statement run once per report.
+// Small pieces the report forms share: amounts read and added in whole grosze, and the sums of
+// a category tree read in one pass.
 
-#include <QHash>
+#include <QMap>
 #include <QString>
 
 #include "store/baza.h"
@@ -13,17 +13,17 @@ qint64 Grosze(const Rekordy& rs, const QString& pole);
 QString KwotaRaportu(qint64 grosze);
 QString KwotaTabeli(qint64 grosze);
 
-// sumprzychod + sumwydatek of a statement; the same statement asked again within one report is
-// answered from memory (a parent's branch is its children's branch, and the same for every main
-// category).
-class SumyKategorii {
+// The entries of one kind in a period summed by category key in one grouped pass, and from them
+// the sums per-category statements would give: a category's own (kategoria='x') and
+// all below it (kategoria LIKE 'x*' AND kategoria<>'x'). A whole tree costs one statement rather
+// than three per category.
+class SumyWedlugKategorii {
  public:
-  qint64 Suma(const QString& jetSql);
+  // warunek: the period condition, as it stands behind "WHERE rodzaj=<kind>".
+  SumyWedlugKategorii(int rodzaj, const QString& warunek);
+  qint64 Wlasna(const QString& identyfikator) const;
+  qint64 Podrzednych(const QString& identyfikator) const;
 
  private:
-  QHash<QString, qint64> znane_;
+  QMap<QString, qint64> klucze_;  // entries with no key never count under any category
 };
-
-// The statements of a category's sums, with the period condition behind each.
-QString SumaWlasna(const QString& identyfikator, int rodzaj, const QString& warunek);
-QString SumaPodrzednych(const QString& identyfikator, int rodzaj, const QString& warunek);

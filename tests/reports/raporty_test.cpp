@@ -172,3 +172,77 @@ TEST_F(Raporty, SummaryMonthAgainstMonthBefore) {
                          "Razem" + S(52) + "40,00" + S(10) + "10,00" + S(8) + "- 30,00" + S(5) +
                              "- 75,00 %"}));
 }
+
+// What a real store holds besides the neat household: a category three levels deep, an amount of
+// a trillion, a deleted counterparty, an account no longer kept and a key no category has.
+TEST_F(Raporty, LongAmountsDeepCategoriesAndDeletedRecords) {
+  Sql(
+      QStringLiteral("INSERT INTO kategorie (identyfikator,kategoria,nazwa,opis,rodzaj) VALUES "
+                     "('aba','ab','Licznik','',2)"));
+  Sql(QStringLiteral("INSERT INTO kontrahent (skrocona,opis,nazwa) VALUES ('Usunięty','','')"));
+  Sql(QStringLiteral("DELETE FROM kontrahent WHERE id=3"));
+  Sql(QStringLiteral(
+      "INSERT INTO transakcje (data,rodzaj,przychod,wydatek,opis,kategoria,konto,kontrahent) "
+      "VALUES ('2026-03-10',2,0,999999999999.99,'Licznik','aba',2,3),"
+      "('2026-03-11',2,0,10,'Stare konto','qq',99,0)"));
+
+  // The branch of the main categories counts the key no category has; a sum longer than its
+  // column pushes the line on.
+  sesja.pubKategoria.identyfikator = QStringLiteral("Root");
+  sesja.pubKategoria.rodzaj = 2;
+  EXPECT_EQ(Napisz("frmRaportKategorii").mid(5, 5),
+            (QStringList{"Dom (100,00 %)" + S(30) + "1000000001 334,50",
+                         S(4) + "Czynsz (0,00 %)" + S(29) + "1 234,56",
+                         S(4) + "Prąd (100,00 %)" + S(25) + "1000000000 099,94",
+                         S(8) + "Licznik (100,00 %)" + S(18) + "999999999 999,99",
+                         "Jedzenie (0,00 %)" + S(35) + "0,05"}));
+
+  // The main categories alone make the total: the key no category has stays out of it.
+  EXPECT_EQ(Napisz("frmRaportSumaryczny").mid(5, 4),
+            (QStringList{"Dom (93,75 %)" + S(43) + "300,00" + "1000000001 334,50" +
+                             "1000000001 034,50" + "333333333 678,17 %",
+                         "Jedzenie (6,25 %)" + S(40) + "20,00" + S(11) + "0,05" + S(8) + "- 19,95" +
+                             S(5) + "- 99,75 %",
+                         D(107),
+                         "Razem" + S(51) + "320,00" + "1000000001 334,55" + "1000000001 014,55" +
+                             "312500000 317,05 %"}));
+
+  // Over time a main category's months hold its whole subtree, and a key that differs only in
+  // case (no category has it) is not part of it.
+  Sql(QStringLiteral("INSERT INTO transakcje (data,rodzaj,przychod,wydatek,opis,kategoria,konto) "
+                     "VALUES ('2026-03-12',2,0,5,'','Ab',1)"));
+  const QStringList wCzasie = Napisz("frmRaportKategorieWCzasie");
+  EXPECT_TRUE(wCzasie.contains("Dom" + S(25) + QStringLiteral("       0,00").repeated(4) +
+                               "     300,00" + "1000000001 334,50"))
+      << wCzasie.join(QLatin1Char('\n')).toStdString();
+  Sql(QStringLiteral("DELETE FROM transakcje WHERE kategoria='Ab'"));
+
+  // A deleted counterparty keeps its row, with no name, and in detail its own entries.
+  sesja.pubKontrahent.id = 0;
+  EXPECT_EQ(Napisz("frmRaportKontrahenta")[7], "4" + S(45) + "0,00999999999 999,99");
+  sesja.pubRaportDetaliczny = true;
+  const QStringList szczegoly = Napisz("frmRaportKontrahenta");
+  const qsizetype czwarty = szczegoly.indexOf("4" + S(45) + "0,00999999999 999,99");
+  ASSERT_GT(czwarty, 0);
+  EXPECT_EQ(szczegoly.mid(czwarty + 2, 3),
+            (QStringList{S(6) + "Wpisy kontrahenta",
+                         S(6) + "1   10-mar-26  Licznik" + S(11) + "       0,00999999999 999,99 " +
+                             "Licznik          Konto osobiste",
+                         D(96)}));
+  sesja.pubRaportDetaliczny = false;
+
+  // The account no longer kept counts in all accounts and in no kind.
+  sesja.pubWezelKont = QStringLiteral("R");
+  const QStringList konta = Napisz("frmRaportKont");
+  EXPECT_EQ(konta[4], "Wszystkie konta" + S(4) + "-999987655 835,6412345 458,91" + S(6) + "50,00" +
+                          "1000000001 344,55" + S(5) + "300,00" + S(5) + "300,00" +
+                          "-1000000001 294,55");
+  const QString bank = QStringLiteral(
+      "-999987656 255,5912345 378,91       0,001000000001 334,50       0,00     300,00"
+      "-1000000001 634,50");
+  EXPECT_EQ(konta[11], " Bankowe" + S(11) + bank);
+  EXPECT_EQ(konta[13], "   Konto osobiste" + S(2) + bank);
+  EXPECT_EQ(konta[9],
+            "   Gotówka" + S(14) +
+                "419,95      70,00      50,00       0,05     300,00       0,00     349,95");
+}

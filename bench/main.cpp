@@ -66,8 +66,8 @@ double zmierz(const std::function<QString()>& f, double budzetMs,
 // Medians of ours and of the floor, timed in turns in one loop so that both see the same state of
 // the machine and of the caches.
 std::pair<double, double> zmierzNaPrzemian(const std::function<QString()>& nasz,
-                                           const std::function<QString()>& surowy,
-                                           double budzetMs, const std::function<void()>& po = {}) {
+                                           const std::function<QString()>& surowy, double budzetMs,
+                                           const std::function<void()>& po = {}) {
   QElapsedTimer t;
   auto partia = [&t, &po](const std::function<QString()>& f) {
     t.restart();
@@ -255,7 +255,6 @@ int main(int argc, char** argv) {
   ZamknijBaze();
   std::printf("\npeak RSS %s: %.1f MB (limit %d MB)\n",
               szczytOdZera ? "during the cases" : "of the process",
-              szczytOdZera ? szczytCalosci : szczytPamieciMb(),
-              duza ? 600 : 200);
+              szczytOdZera ? szczytCalosci : szczytPamieciMb(), duza ? 600 : 200);
   return rozne ? 2 : 0;
 }

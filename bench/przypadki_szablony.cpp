@@ -90,7 +90,8 @@ QString sqlListySurowej(const QString& klucz) {
   return QStringLiteral(
              "SELECT COUNT(*) FROM ((szablony INNER JOIN konta ON szablony.konto = konta.id) "
              "INNER JOIN kategorie ON (szablony.rodzaj= kategorie.rodzaj AND szablony.kategoria = "
-             "kategorie.identyfikator)) LEFT JOIN kontrahent ON szablony.kontrahent = kontrahent.id "
+             "kategorie.identyfikator)) LEFT JOIN kontrahent ON szablony.kontrahent = "
+             "kontrahent.id "
              "WHERE szablony.rodzaj=2 AND (kontrahent.skrocona LIKE '%%1%' OR szablony.nazwa LIKE "
              "'%%1%' OR szablony.opis LIKE '%%1%' OR konta.nazwa LIKE '%%1%' OR kategorie.nazwa "
              "LIKE '%%1%')")
@@ -268,8 +269,7 @@ Przypadki przypadki(
                lista.reset();
                podstawy();
              }),
-         PrzypadekBench(QStringLiteral("recurring: 50 daily rules, a year planned"),
-                        rokNasz)
+         PrzypadekBench(QStringLiteral("recurring: 50 daily rules, a year planned"), rokNasz)
              .Podloga(rokSurowy)
              .Cofnij(cofnij)
              .Limit(1000)

@@ -7,12 +7,11 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
+#include <QDateEdit>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
-
-#include <QDateEdit>
 
 #include "common/magazyn_testowy.h"
 #include "ledger/frmEdycjaOkresowych.h"

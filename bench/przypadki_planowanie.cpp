@@ -1,4 +1,5 @@
-// The calendar, the category change simulation and the payment slip. The calendar and the
+// The calendar (its month read, and the window built, painted and turned a month), the category
+// change simulation and the payment slip. The calendar and the
 // simulation run on a store of their own: the bench's size with 5 000 planned entries (and 1 000
 // planned transfers), made once beside the main store; the cases after them go back to the main
 // store.
@@ -8,8 +9,11 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <memory>
+#include <utility>
 
 #include "budowa.h"
+#include "planning/frmKalendarz.h"
 #include "planning/kalendarz.h"
 #include "planning/symulacja.h"
 #include "rejestr.h"
@@ -96,13 +100,16 @@ QString miesiac(const MiesiacKalendarza& m) {
 }
 
 // The floor: the same two grouped reads on the raw connection, summed the same way.
-QString miesiacSurowo() {
+QString miesiacSurowo(int miesiac = 12, int rok = 2026) {
+  const QDate od(rok, miesiac, 1);
+  const QString okres = QStringLiteral("data>='%1' AND data<'%2'")
+                            .arg(od.toString(Qt::ISODate), od.addMonths(1).toString(Qt::ISODate));
   qint64 ile = 0, p = 0, w = 0, t = 0;
   {
     Polecenie z(Kontekst().surowa,
                 QStringLiteral("SELECT count(id), sum(przychod), sum(wydatek) FROM zaplanowane "
-                               "WHERE data>='2026-12-01' AND data<'2027-01-01' GROUP BY "
-                               "substr(data,9,2)"));
+                               "WHERE %1 GROUP BY substr(data,9,2)")
+                    .arg(okres));
     while (z.Wiersz()) {
       ile += z.Liczba(0);
       p += qRound64(z.Rzeczywista(1) * 100);
@@ -110,8 +117,9 @@ QString miesiacSurowo() {
     }
   }
   Polecenie z(Kontekst().surowa,
-              QStringLiteral("SELECT count(id), sum(kwota) FROM zaplanowanewewnetrzne WHERE "
-                             "data>='2026-12-01' AND data<'2027-01-01' GROUP BY substr(data,9,2)"));
+              QStringLiteral("SELECT count(id), sum(kwota) FROM zaplanowanewewnetrzne WHERE %1 "
+                             "GROUP BY substr(data,9,2)")
+                  .arg(okres));
   while (z.Wiersz()) {
     ile += z.Liczba(0);
     t += qRound64(z.Rzeczywista(1) * 100);
@@ -128,6 +136,38 @@ void przygotujPlanowanie() {
   const Symulacja s = PrzeliczSymulacje(2, false, Dzis());
   UstawOszczednosc(s, QStringLiteral("a"), QStringLiteral("-15"), 2);
   UstawOszczednosc(s, QStringLiteral("b"), QStringLiteral("10"), 2);
+}
+
+// The calendar window as the user meets it: built over the month of today and painted whole
+// (grab() draws every cell as the screen would).
+QString oknoKalendarza() {
+  frmKalendarz f;
+  f.show();
+  f.grab();
+  return miesiac(f.Miesiac());
+}
+
+// One window kept open; ">>" and "<<" in turns, each month read and painted.
+std::unique_ptr<frmKalendarz> kalendarz;
+bool naprzod = true, naprzodSurowo = true;
+void otworzKalendarz() {
+  przygotujPlanowanie();
+  kalendarz = std::make_unique<frmKalendarz>();
+  kalendarz->show();
+  kalendarz->grab();
+  naprzod = naprzodSurowo = true;
+}
+QString kolejnyMiesiac() {
+  if (std::exchange(naprzod, !naprzod))
+    kalendarz->cmdNastepnyMiesiac_Click();
+  else
+    kalendarz->cmdPoprzedniMiesiac_Click();
+  kalendarz->grab();
+  return miesiac(kalendarz->Miesiac());
+}
+QString kolejnyMiesiacSurowo() {
+  const QDate d = std::exchange(naprzodSurowo, !naprzodSurowo) ? kDzien.addMonths(1) : kDzien;
+  return miesiacSurowo(d.month(), d.year());
 }
 
 PrzelewRekord przelew() {
@@ -151,9 +191,17 @@ Przypadki planowanie(
     95, {
             PrzypadekBench(QStringLiteral("calendar month read, 5 000 planned"),
                            [] { return miesiac(CzytajMiesiac(12, 2026)); })
-                .Podloga(miesiacSurowo)
+                .Podloga([] { return miesiacSurowo(); })
                 .Limit(30)
                 .Przygotuj(przygotujPlanowanie),
+            PrzypadekBench(QStringLiteral("calendar window built and painted"), oknoKalendarza)
+                .Podloga([] { return miesiacSurowo(kDzien.month(), kDzien.year()); })
+                .Limit(30)
+                .Przygotuj(przygotujPlanowanie),
+            PrzypadekBench(QStringLiteral("calendar >> / <<, month painted"), kolejnyMiesiac)
+                .Podloga(kolejnyMiesiacSurowo)
+                .Limit(30)
+                .Przygotuj(otworzKalendarz),
             PrzypadekBench(QStringLiteral("simulation recompute, expense tree"),
                            [] {
                              const Symulacja s = PrzeliczSymulacje(2, false, Dzis());
@@ -167,7 +215,10 @@ Przypadki planowanie(
                       "FROM kategorie c WHERE c.rodzaj=2 AND c.kategoria=k.identyfikator))"));
                 })
                 .Limit(50)
-                .Przygotuj(przygotujPlanowanie),
+                .Przygotuj([] {
+                  kalendarz.reset();
+                  przygotujPlanowanie();
+                }),
             PrzypadekBench(QStringLiteral("slip preview, four slips"),
                            [] {
                              const QImage obraz = PodgladArkusza(przelew(), 1000);

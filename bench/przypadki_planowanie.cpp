@@ -1,8 +1,7 @@
 // The calendar (its month read, and the window built, painted and turned a month), the category
-// change simulation and the payment slip. The calendar and the
-// simulation run on a store of their own: the bench's size with 5 000 planned entries (and 1 000
-// planned transfers), made once beside the main store; the cases after them go back to the main
-// store.
+// change simulation and the payment slip. The calendar and the simulation run on a store of their
+// own: the main store's number of entries with 5 000 planned entries (and 1 000 planned
+// transfers), made once beside the main store; the cases after them go back to the main store.
 
 #include <sqlcipher/sqlite3.h>
 
@@ -60,7 +59,10 @@ bool naKopii() {
     bool ma = false;
     if (!QFile::exists(s.kopia.plik) || !MaDaneUzytkownika(s.kopia.plik, &ma, &blad) || !ma) {
       QFile::remove(s.kopia.plik);
-      RozmiarProbki r;
+      // As many entries as the main store (the 1 000 000-entry run gets its own large copy).
+      Polecenie ile(Kontekst().surowa, QStringLiteral("SELECT COUNT(*) FROM transakcje"));
+      const qint64 wpisy = ile.Wiersz() ? ile.Liczba(0) : 0;
+      RozmiarProbki r = wpisy > 500000 ? RozmiarDlaWpisow(int(wpisy)) : RozmiarProbki();
       r.zaplanowane = 5000;
       r.zaplanowaneWewnetrzne = 1000;
       if (!ZbudujBaze(QStringLiteral(ZORVIK_DATA_DIR), s.kopia.plik, &blad) ||

@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <memory>
 #include <utility>
 
 #include "budowa.h"
@@ -150,11 +149,12 @@ QString oknoKalendarza() {
 }
 
 // One window kept open; ">>" and "<<" in turns, each month read and painted.
-std::unique_ptr<frmKalendarz> kalendarz;
+// Kept until the next case (never deleted after the application is gone).
+frmKalendarz* kalendarz = nullptr;
 bool naprzod = true, naprzodSurowo = true;
 void otworzKalendarz() {
   przygotujPlanowanie();
-  kalendarz = std::make_unique<frmKalendarz>();
+  kalendarz = new frmKalendarz();
   kalendarz->show();
   kalendarz->grab();
   naprzod = naprzodSurowo = true;
@@ -218,7 +218,7 @@ Przypadki planowanie(
                 })
                 .Limit(50)
                 .Przygotuj([] {
-                  kalendarz.reset();
+                  delete std::exchange(kalendarz, nullptr);
                   przygotujPlanowanie();
                 }),
             PrzypadekBench(QStringLiteral("slip preview, four slips"),

@@ -14,7 +14,7 @@
 #include <QLineEdit>
 #include <QTreeWidget>
 #include <cstdio>
-#include <memory>
+#include <utility>
 
 #include "ledger/frmSzablonyZewnetrzne.h"
 #include "ledger/okresowe.h"
@@ -107,28 +107,30 @@ const QStringList kLitery = [] {
   for (int i = 1; i <= slowo.size(); ++i) w << slowo.left(i);
   return w;
 }();
-std::unique_ptr<frmSzablonyZewnetrzne> lista;
+// Kept until the next case (never deleted after the application is gone).
+frmSzablonyZewnetrzne* lista = nullptr;
 int literaNasza = 0, literaSurowa = 0;
 
 void pokazListe() {
   szablony();
   sesja.pubSzablonRodzaj = 2;
   sesja.pubSzablonWybor = 2;
-  lista = std::make_unique<frmSzablonyZewnetrzne>();
+  lista = new frmSzablonyZewnetrzne();
   lista->show();
   QApplication::processEvents();
 }
-QString listaEkran() {
+QString wpisz(const QString& tekst) {
   auto* klucz = lista->findChild<QLineEdit*>(QStringLiteral("txtKlucz"));
   auto* lvw = lista->findChild<QTreeWidget*>(QStringLiteral("lvwSzablonyTransakcji"));
-  klucz->setText(kLitery[literaNasza++ % kLitery.size()]);
+  klucz->setText(tekst);
   lvw->viewport()->repaint();
   return QString::number(double(lvw->topLevelItemCount()), 'f', 2);
 }
+QString listaEkran() { return wpisz(kLitery[literaNasza++ % kLitery.size()]); }
+
 // The floor: the list's own statement stepped through on the raw connection, every column read.
-QString listaEkranSurowa() {
-  const QByteArray sql =
-      TlumaczJet(SqlListySzablonow(2, kLitery[literaSurowa++ % kLitery.size()])).toUtf8();
+QString listaSurowaDla(const QString& klucz) {
+  const QByteArray sql = TlumaczJet(SqlListySzablonow(2, klucz)).toUtf8();
   sqlite3_stmt* st = nullptr;
   if (sqlite3_prepare_v2(Kontekst().surowa, sql.constData(), int(sql.size()), &st, nullptr) !=
       SQLITE_OK)
@@ -142,6 +144,13 @@ QString listaEkranSurowa() {
   sqlite3_finalize(st);
   return QString::number(double(ile), 'f', 2);
 }
+QString listaEkranSurowa() { return listaSurowaDla(kLitery[literaSurowa++ % kLitery.size()]); }
+
+// The worst letter: each one changes the rows (over 1 000 and 112 in turns), so that the list is
+// always built anew; a letter that leaves the same rows leaves the list alone.
+const QStringList kZmiany = {QStringLiteral("s"), QStringLiteral("szablon 1")};
+QString listaZmiana() { return wpisz(kZmiany[literaNasza++ % 2]); }
+QString listaZmianaSurowa() { return listaSurowaDla(kZmiany[literaSurowa++ % 2]); }
 
 QString paragonNasz() {
   DaneParagonu d;
@@ -262,11 +271,18 @@ Przypadki przypadki(
              .Podloga(listaEkranSurowa)
              .Limit(20)
              .Przygotuj(pokazListe),
+         PrzypadekBench(QStringLiteral("template list screen, rows changed"), listaZmiana)
+             .Podloga(listaZmianaSurowa)
+             .Limit(20)
+             .Przygotuj([] {
+               if (!lista) pokazListe();
+               literaNasza = literaSurowa = 0;
+             }),
          PrzypadekBench(QStringLiteral("receipt save, nine lines (and removed)"), paragonNasz)
              .Podloga(paragonSurowy)
              .Limit(50)
              .Przygotuj([] {
-               lista.reset();
+               delete std::exchange(lista, nullptr);
                podstawy();
              }),
          PrzypadekBench(QStringLiteral("recurring: 50 daily rules, a year planned"), rokNasz)

@@ -1,9 +1,13 @@
 #include "ledger/szablony.h"
 
+#include <sqlcipher/sqlite3.h>
+
 #include "ledger/transakcje.h"
 #include "store/MsgBoxModule.h"
 #include "store/baza.h"
+#include "store/dziennik.h"
 #include "store/filtr.h"
+#include "store/jet.h"
 #include "store/napis.h"
 
 namespace {
@@ -60,6 +64,36 @@ Szablon szablonZ(const Rekordy& rs, qint64 id, int rodzaj, const KolumnySzablonu
   return s;
 }
 
+// The lists are refilled for every letter typed: their rows are stepped straight from the
+// translated statement, each column read by its place, rather than gathered into a recordset
+// first. A failed read is logged and gives no rows.
+template <class F>
+void przejdzListe(const QString& jetSql, F&& wiersz) {
+  if (!OtworzBaze()) return;
+  sqlite3* db = pubBaza().Uchwyt();
+  const QByteArray sql = TlumaczJet(jetSql).toUtf8();
+  sqlite3_stmt* st = nullptr;
+  if (sqlite3_prepare_v2(db, sql.constData(), int(sql.size()), &st, nullptr) != SQLITE_OK) {
+    ZapiszLog(
+        QStringLiteral("read failed: %1 | %2")
+            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
+    sqlite3_finalize(st);
+    return;
+  }
+  const auto tekst = [st](int k) {
+    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, k)),
+                             sqlite3_column_bytes(st, k));
+  };
+  const auto liczba = [st](int k) { return sqlite3_column_int64(st, k); };
+  int kod;
+  while ((kod = sqlite3_step(st)) == SQLITE_ROW) wiersz(tekst, liczba);
+  if (kod != SQLITE_DONE)
+    ZapiszLog(
+        QStringLiteral("read failed: %1 | %2")
+            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
+  sqlite3_finalize(st);
+}
+
 }  // namespace
 
 QString SqlListySzablonow(int rodzaj, const QString& klucz) {
@@ -101,37 +135,33 @@ QString SqlListySzablonowWewnetrznych(const QString& klucz) {
 }
 
 std::vector<WierszSzablonu> ListaSzablonow(int rodzaj, const QString& klucz) {
-  OtworzBaze();
   std::vector<WierszSzablonu> w;
-  for (Rekordy rs = pubBaza().Czytaj(SqlListySzablonow(rodzaj, klucz)); !rs.Eof(); rs.MoveNext()) {
+  // Columns: id, rodzaj, nazwa, opis, konto, rodzajkonta, kategoria, kontrahent.
+  przejdzListe(SqlListySzablonow(rodzaj, klucz), [&w](const auto& tekst, const auto& liczba) {
     WierszSzablonu s;
-    s.id = rs.Pole(QStringLiteral("id")).toLongLong();
-    s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-    s.kategoria = rs.Tekst(QStringLiteral("kategoria"));
-    s.konto = zRodzajem(rs.Tekst(QStringLiteral("konto")),
-                        int(PoleRekordu(rs, QStringLiteral("rodzajkonta"))));
-    s.kontrahent = rs.Tekst(QStringLiteral("kontrahent"));
-    s.opis = rs.Tekst(QStringLiteral("opis"));
+    s.id = liczba(0);
+    s.nazwa = tekst(2);
+    s.opis = tekst(3);
+    s.konto = zRodzajem(tekst(4), int(liczba(5)));
+    s.kategoria = tekst(6);
+    s.kontrahent = tekst(7);
     w.push_back(std::move(s));
-  }
+  });
   return w;
 }
 
 std::vector<WierszSzablonu> ListaSzablonowWewnetrznych(const QString& klucz) {
-  OtworzBaze();
   std::vector<WierszSzablonu> w;
-  for (Rekordy rs = pubBaza().Czytaj(SqlListySzablonowWewnetrznych(klucz)); !rs.Eof();
-       rs.MoveNext()) {
+  // Columns: id, nazwa, opis, zkonta, nakonto, rodzajzkonta, rodzajnakonto.
+  przejdzListe(SqlListySzablonowWewnetrznych(klucz), [&w](const auto& tekst, const auto& liczba) {
     WierszSzablonu s;
-    s.id = rs.Pole(QStringLiteral("id")).toLongLong();
-    s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-    s.zKonta = zRodzajem(rs.Tekst(QStringLiteral("zkonta")),
-                         int(PoleRekordu(rs, QStringLiteral("rodzajzkonta"))));
-    s.naKonto = zRodzajem(rs.Tekst(QStringLiteral("nakonto")),
-                          int(PoleRekordu(rs, QStringLiteral("rodzajnakonto"))));
-    s.opis = rs.Tekst(QStringLiteral("opis"));
+    s.id = liczba(0);
+    s.nazwa = tekst(1);
+    s.opis = tekst(2);
+    s.zKonta = zRodzajem(tekst(3), int(liczba(5)));
+    s.naKonto = zRodzajem(tekst(4), int(liczba(6)));
     w.push_back(std::move(s));
-  }
+  });
   return w;
 }
 

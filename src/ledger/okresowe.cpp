@@ -218,9 +218,6 @@ bool usunOczekujace(qint64 id, int rodzaj, const QDate& od) {
 // How far apart a frequency's days stand at most, in days.
 int krokDni(int czestotliwosc) {
   switch (czestotliwosc) {
-    case Codziennie:
-    case DniPowszednie:
-      return 3;
     case CoTydzien:
       return 7;
     default:
@@ -228,26 +225,42 @@ int krokDni(int czestotliwosc) {
   }
 }
 
-// A rule moved to other days at the same frequency (a new first day): each of its days from today
-// on whose row the user already realised or deleted marks the new day nearest to it as planned,
-// so that a week or month already paid does not come back on its new day. Runs after the rows
-// still waiting went, so what is left from today on is what the user took care of.
+// The new day that takes the place of a day the user already took care of: a weekly rule's day
+// of the same week (Monday to Sunday), a monthly rule's day of the same month, and for the longer
+// periods the nearest day. Null when there is none.
+QDate tenSamTermin(const RegulaOkresowa& r, const QDate& x) {
+  const int krok = krokDni(r.czestotliwosc);
+  QDate wynik;
+  for (const Termin& t : TerminyReguly(r, x.addDays(-krok), x.addDays(krok))) {
+    const QDate& d = t.dzien;
+    if (r.czestotliwosc == CoTydzien) {
+      if (d.addDays(1 - d.dayOfWeek()) == x.addDays(1 - x.dayOfWeek())) return d;
+    } else if (r.czestotliwosc == CoMiesiac) {
+      if (d.year() == x.year() && d.month() == x.month()) return d;
+    } else if (!wynik.isValid() || std::abs(d.daysTo(x)) < std::abs(wynik.daysTo(x))) {
+      wynik = d;
+    }
+  }
+  return r.czestotliwosc == CoTydzien || r.czestotliwosc == CoMiesiac ? QDate() : wynik;
+}
+
+// A rule moved to other days at the same frequency (a new first day): each day the rule already
+// made that is not planned anew (its row is past, or the user realised or deleted it) marks the
+// new day of the same week or month as planned, so that a week or month already paid or planned
+// does not come twice. Runs after the rows still waiting from today went. Daily and weekday rules
+// keep their days, which need nothing more.
 bool zachowajZalatwione(const RegulaOkresowa& r, const QDate& dzis) {
+  if (r.czestotliwosc == Codziennie || r.czestotliwosc == DniPowszednie) return true;
   std::vector<QDate> zalatwione;
   {
     Surowe s("SELECT data FROM okresowedni WHERE okresowa=? AND data>=?");
-    s(1, r.id)(2, dzis);
+    s(1, r.id)(2, dzis.addDays(-krokDni(r.czestotliwosc)));
     while (s.Wiersz()) zalatwione.push_back(zIso(s.Tekst(0)));
   }
-  const int krok = krokDni(r.czestotliwosc);
   Surowe oznacz("INSERT OR IGNORE INTO okresowedni (okresowa,data,wiersz) VALUES (?,?,0)");
   for (const QDate& x : zalatwione) {
-    QDate najblizszy;
-    for (const Termin& t : TerminyReguly(r, x.addDays(-krok), x.addDays(krok)))
-      if (!najblizszy.isValid() || std::abs(t.dzien.daysTo(x)) < std::abs(najblizszy.daysTo(x)))
-        najblizszy = t.dzien;
-    if (najblizszy.isValid() && najblizszy >= dzis && !oznacz(1, r.id)(2, najblizszy).Wykonaj())
-      return false;
+    const QDate d = tenSamTermin(r, x);
+    if (d.isValid() && d >= dzis && !oznacz(1, r.id)(2, d).Wykonaj()) return false;
   }
   return true;
 }

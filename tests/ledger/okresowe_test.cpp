@@ -303,17 +303,33 @@ TEST_F(OkresoweWMagazynie, ADayRealisedEarlyStaysDoneWhenTheRuleChanges) {
     f.cmdOk_Click();
     ASSERT_EQ(f.result(), QDialog::Accepted);
   }
-  // 15, 22, 29 January, 19, 26 February, 5, 12 March.
+  // 22, 29 January, 19, 26 February, 5, 12 March; this week has its Tuesday the 13th already.
   EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data>='2026-01-15' AND wydatek=950 AND "
                    "strftime('%w',data)='4'"),
-            7);
-  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data>='2026-01-15'"), 7);
+            6);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data>='2026-01-15'"), 6);
   // A month on, the next run plans only the new weeks, at the new amount.
   UstawDzis(D(2026, 2, 15));
   EXPECT_EQ(GenerujOkresowe().wiersze, 5);  // 19, 26 March, 2, 9, 16 April
-  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=950"), 12);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=950"), 11);
   EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data IN ('2026-02-05','2026-02-12')"),
             0);
+
+  // A monthly rule of the 10th whose March row the user deleted, moved to the 28th: February
+  // (planned on the 10th) and March stay done, April comes on the 28th.
+  ASSERT_TRUE(UstawHoryzontOkresowych(90));  // to 16 May
+  RegulaOkresowa media = r;
+  media.opis = QStringLiteral("Prąd");
+  media.czestotliwosc = CoMiesiac;
+  media.od = D(2026, 1, 10);
+  media.kwota = 120;
+  media.id = Zapisz(media);
+  Sql("DELETE FROM zaplanowane WHERE data='2026-03-10' AND wydatek=120");
+  media.od = D(2026, 1, 28);
+  Zapisz(media);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=120 AND data<'2026-02-15'"), 2);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=120 AND data>='2026-02-15'"), 1);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=120 AND data='2026-04-28'"), 1);
 }
 
 // A store made before recurring rules gets their tables and the horizon, and keeps its rows.

@@ -39,13 +39,17 @@ int blad(const QString& tekst) {
   return 1;
 }
 
-// Median milliseconds of one call. Calls too short for the clock are timed in batches.
-double zmierz(const std::function<QString()>& f, double budzetMs) {
+// Median milliseconds of one call. Calls too short for the clock are timed in batches; a call
+// with a clean-up (po) is timed alone and its clean-up runs off the clock.
+double zmierz(const std::function<QString()>& f, double budzetMs,
+              const std::function<void()>& po = {}) {
   QElapsedTimer t;
   t.start();
   f();
   const double pierwszy = double(t.nsecsElapsed()) / 1e6;
-  const int partia = pierwszy >= 0.5 ? 1 : int(std::min(10000.0, 0.5 / std::max(pierwszy, 1e-5)));
+  if (po) po();
+  const int partia =
+      po || pierwszy >= 0.5 ? 1 : int(std::min(10000.0, 0.5 / std::max(pierwszy, 1e-5)));
   std::vector<double> proby;
   QElapsedTimer calosc;
   calosc.start();
@@ -53,6 +57,7 @@ double zmierz(const std::function<QString()>& f, double budzetMs) {
     t.restart();
     for (int i = 0; i < partia; ++i) f();
     proby.push_back(double(t.nsecsElapsed()) / 1e6 / partia);
+    if (po) po();
   }
   std::nth_element(proby.begin(), proby.begin() + qsizetype(proby.size() / 2), proby.end());
   return proby[proby.size() / 2];
@@ -61,14 +66,15 @@ double zmierz(const std::function<QString()>& f, double budzetMs) {
 // Medians of ours and of the floor, timed in turns in one loop so that both see the same state of
 // the machine and of the caches.
 std::pair<double, double> zmierzNaPrzemian(const std::function<QString()>& nasz,
-                                           const std::function<QString()>& surowy,
-                                           double budzetMs) {
+                                           const std::function<QString()>& surowy, double budzetMs,
+                                           const std::function<void()>& po = {}) {
   QElapsedTimer t;
-  auto partia = [&t](const std::function<QString()>& f) {
+  auto partia = [&t, &po](const std::function<QString()>& f) {
     t.restart();
     f();
     const double pierwszy = double(t.nsecsElapsed()) / 1e6;
-    return pierwszy >= 0.5 ? 1 : int(std::min(10000.0, 0.5 / std::max(pierwszy, 1e-5)));
+    if (po) po();
+    return po || pierwszy >= 0.5 ? 1 : int(std::min(10000.0, 0.5 / std::max(pierwszy, 1e-5)));
   };
   const int pn = partia(nasz), ps = partia(surowy);
   std::vector<double> a, b;
@@ -78,9 +84,11 @@ std::pair<double, double> zmierzNaPrzemian(const std::function<QString()>& nasz,
     t.restart();
     for (int i = 0; i < pn; ++i) nasz();
     a.push_back(double(t.nsecsElapsed()) / 1e6 / pn);
+    if (po) po();
     t.restart();
     for (int i = 0; i < ps; ++i) surowy();
     b.push_back(double(t.nsecsElapsed()) / 1e6 / ps);
+    if (po) po();
   }
   auto mediana = [](std::vector<double>& v) {
     std::nth_element(v.begin(), v.begin() + qsizetype(v.size() / 2), v.end());
@@ -215,12 +223,14 @@ int main(int argc, char** argv) {
     wyzerujSzczytPamieci();
     if (p.przygotuj) p.przygotuj();
     const QString nasz = p.nasz();
+    if (p.cofnij) p.cofnij();
     double czasNasz = 0;
     QString uwaga;
     QString podloga = QStringLiteral("-"), iloraz = QStringLiteral("-");
     if (p.surowy) {
       const QString surowy = p.surowy();
-      const auto [n, s] = zmierzNaPrzemian(p.nasz, p.surowy, o.czasMs);
+      if (p.cofnij) p.cofnij();
+      const auto [n, s] = zmierzNaPrzemian(p.nasz, p.surowy, o.czasMs, p.cofnij);
       czasNasz = n;
       podloga = QString::number(s, 'f', 5);
       iloraz = s > 0 ? QString::number(n / s, 'g', 3) : QStringLiteral("-");
@@ -229,7 +239,7 @@ int main(int argc, char** argv) {
         uwaga = QStringLiteral("  DIFFERENT: ours [%1], floor [%2]").arg(nasz, surowy);
       }
     } else {
-      czasNasz = zmierz(p.nasz, o.czasMs);
+      czasNasz = zmierz(p.nasz, o.czasMs, p.cofnij);
     }
     const double cel = duza && p.celMsDuzy > 0 ? p.celMsDuzy : p.celMs;
     const QString limit = cel > 0 ? QString::number(cel, 'f', 0) : QStringLiteral("-");
@@ -245,7 +255,6 @@ int main(int argc, char** argv) {
   ZamknijBaze();
   std::printf("\npeak RSS %s: %.1f MB (limit %d MB)\n",
               szczytOdZera ? "during the cases" : "of the process",
-              szczytOdZera ? szczytCalosci : szczytPamieciMb(),
-              duza ? 600 : 200);
+              szczytOdZera ? szczytCalosci : szczytPamieciMb(), duza ? 600 : 200);
   return rozne ? 2 : 0;
 }

@@ -1,15 +1,17 @@
-// The calendar, the category change simulation and the payment slip. The calendar and the
-// simulation run on a store of their own: the bench's size with 5 000 planned entries (and 1 000
-// planned transfers), made once beside the main store; the cases after them go back to the main
-// store.
+// The calendar (its month read, and the window built, painted and turned a month), the category
+// change simulation and the payment slip. The calendar and the simulation run on a store of their
+// own: the main store's number of entries with 5 000 planned entries (and 1 000 planned
+// transfers), made once beside the main store; the cases after them go back to the main store.
 
 #include <sqlcipher/sqlite3.h>
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <utility>
 
 #include "budowa.h"
+#include "planning/frmKalendarz.h"
 #include "planning/kalendarz.h"
 #include "planning/symulacja.h"
 #include "rejestr.h"
@@ -56,7 +58,10 @@ bool naKopii() {
     bool ma = false;
     if (!QFile::exists(s.kopia.plik) || !MaDaneUzytkownika(s.kopia.plik, &ma, &blad) || !ma) {
       QFile::remove(s.kopia.plik);
-      RozmiarProbki r;
+      // As many entries as the main store (the 1 000 000-entry run gets its own large copy).
+      Polecenie ile(Kontekst().surowa, QStringLiteral("SELECT COUNT(*) FROM transakcje"));
+      const qint64 wpisy = ile.Wiersz() ? ile.Liczba(0) : 0;
+      RozmiarProbki r = wpisy > 500000 ? RozmiarDlaWpisow(int(wpisy)) : RozmiarProbki();
       r.zaplanowane = 5000;
       r.zaplanowaneWewnetrzne = 1000;
       if (!ZbudujBaze(QStringLiteral(ZORVIK_DATA_DIR), s.kopia.plik, &blad) ||
@@ -96,13 +101,16 @@ QString miesiac(const MiesiacKalendarza& m) {
 }
 
 // The floor: the same two grouped reads on the raw connection, summed the same way.
-QString miesiacSurowo() {
+QString miesiacSurowo(int miesiac = 12, int rok = 2026) {
+  const QDate od(rok, miesiac, 1);
+  const QString okres = QStringLiteral("data>='%1' AND data<'%2'")
+                            .arg(od.toString(Qt::ISODate), od.addMonths(1).toString(Qt::ISODate));
   qint64 ile = 0, p = 0, w = 0, t = 0;
   {
     Polecenie z(Kontekst().surowa,
                 QStringLiteral("SELECT count(id), sum(przychod), sum(wydatek) FROM zaplanowane "
-                               "WHERE data>='2026-12-01' AND data<'2027-01-01' GROUP BY "
-                               "substr(data,9,2)"));
+                               "WHERE %1 GROUP BY substr(data,9,2)")
+                    .arg(okres));
     while (z.Wiersz()) {
       ile += z.Liczba(0);
       p += qRound64(z.Rzeczywista(1) * 100);
@@ -110,8 +118,9 @@ QString miesiacSurowo() {
     }
   }
   Polecenie z(Kontekst().surowa,
-              QStringLiteral("SELECT count(id), sum(kwota) FROM zaplanowanewewnetrzne WHERE "
-                             "data>='2026-12-01' AND data<'2027-01-01' GROUP BY substr(data,9,2)"));
+              QStringLiteral("SELECT count(id), sum(kwota) FROM zaplanowanewewnetrzne WHERE %1 "
+                             "GROUP BY substr(data,9,2)")
+                  .arg(okres));
   while (z.Wiersz()) {
     ile += z.Liczba(0);
     t += qRound64(z.Rzeczywista(1) * 100);
@@ -128,6 +137,39 @@ void przygotujPlanowanie() {
   const Symulacja s = PrzeliczSymulacje(2, false, Dzis());
   UstawOszczednosc(s, QStringLiteral("a"), QStringLiteral("-15"), 2);
   UstawOszczednosc(s, QStringLiteral("b"), QStringLiteral("10"), 2);
+}
+
+// The calendar window as the user meets it: built over the month of today and painted whole
+// (grab() draws every cell as the screen would).
+QString oknoKalendarza() {
+  frmKalendarz f;
+  f.show();
+  f.grab();
+  return miesiac(f.Miesiac());
+}
+
+// One window kept open; ">>" and "<<" in turns, each month read and painted.
+// Kept until the next case (never deleted after the application is gone).
+frmKalendarz* kalendarz = nullptr;
+bool naprzod = true, naprzodSurowo = true;
+void otworzKalendarz() {
+  przygotujPlanowanie();
+  kalendarz = new frmKalendarz();
+  kalendarz->show();
+  kalendarz->grab();
+  naprzod = naprzodSurowo = true;
+}
+QString kolejnyMiesiac() {
+  if (std::exchange(naprzod, !naprzod))
+    kalendarz->cmdNastepnyMiesiac_Click();
+  else
+    kalendarz->cmdPoprzedniMiesiac_Click();
+  kalendarz->grab();
+  return miesiac(kalendarz->Miesiac());
+}
+QString kolejnyMiesiacSurowo() {
+  const QDate d = std::exchange(naprzodSurowo, !naprzodSurowo) ? kDzien.addMonths(1) : kDzien;
+  return miesiacSurowo(d.month(), d.year());
 }
 
 PrzelewRekord przelew() {
@@ -151,9 +193,17 @@ Przypadki planowanie(
     95, {
             PrzypadekBench(QStringLiteral("calendar month read, 5 000 planned"),
                            [] { return miesiac(CzytajMiesiac(12, 2026)); })
-                .Podloga(miesiacSurowo)
+                .Podloga([] { return miesiacSurowo(); })
                 .Limit(30)
                 .Przygotuj(przygotujPlanowanie),
+            PrzypadekBench(QStringLiteral("calendar window built and painted"), oknoKalendarza)
+                .Podloga([] { return miesiacSurowo(kDzien.month(), kDzien.year()); })
+                .Limit(30)
+                .Przygotuj(przygotujPlanowanie),
+            PrzypadekBench(QStringLiteral("calendar >> / <<, month painted"), kolejnyMiesiac)
+                .Podloga(kolejnyMiesiacSurowo)
+                .Limit(30)
+                .Przygotuj(otworzKalendarz),
             PrzypadekBench(QStringLiteral("simulation recompute, expense tree"),
                            [] {
                              const Symulacja s = PrzeliczSymulacje(2, false, Dzis());
@@ -167,7 +217,10 @@ Przypadki planowanie(
                       "FROM kategorie c WHERE c.rodzaj=2 AND c.kategoria=k.identyfikator))"));
                 })
                 .Limit(50)
-                .Przygotuj(przygotujPlanowanie),
+                .Przygotuj([] {
+                  delete std::exchange(kalendarz, nullptr);
+                  przygotujPlanowanie();
+                }),
             PrzypadekBench(QStringLiteral("slip preview, four slips"),
                            [] {
                              const QImage obraz = PodgladArkusza(przelew(), 1000);

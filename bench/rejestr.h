@@ -34,6 +34,12 @@ struct PrzypadekBench {
     przygotuj = std::move(f);
     return *this;
   }
+  // Undoes a call's writes off the clock, after every call of either side (each call then timed
+  // alone): a write is timed without the removal that lets the next call write it again.
+  PrzypadekBench& Cofnij(std::function<void()> f) {
+    cofnij = std::move(f);
+    return *this;
+  }
 
   QString nazwa;
   std::function<QString()> nasz;    // timed: the program's code; its result as text
@@ -41,6 +47,7 @@ struct PrzypadekBench {
   double celMs = 0;                 // the design's limit for this step; 0: none
   double celMsDuzy = 0;             // the limit on the 1 000 000-entry store; 0: as celMs
   std::function<void()> przygotuj;  // once before timing, untimed
+  std::function<void()> cofnij;     // after every call, untimed; empty: none
 };
 
 // Registers cases; kolejnosc orders groups of cases in the table (files register in any order).

@@ -14,6 +14,7 @@
 
 #include "calculator/PoleKwoty_gui.h"
 #include "store/session.h"
+#include "ui/nawigacja_gui.h"
 
 QDateEdit* NowePoleDaty(const QString& nazwa, const QDate& data, QWidget* rodzic) {
   auto* p = new QDateEdit(rodzic);
@@ -107,4 +108,18 @@ void PozycjaPrzy(const QWidget* etykieta) {
   const QPoint p = etykieta->mapToGlobal(QPoint(0, etykieta->height()));
   sesja.pubPozycjaX = p.x();
   sesja.pubPozycjaY = p.y();
+}
+
+QPushButton* NowyPrzycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
+  auto* b = new QPushButton(tekst, rodzic);
+  b->setObjectName(nazwa);
+  b->setAutoDefault(false);
+  return b;
+}
+
+void PokazWybor(const QString& przegladarka, const QWidget* etykieta, QWidget* rodzic) {
+  PozycjaPrzy(etykieta);
+  sesja.pubTrybPrzegladu = 2;
+  sesja.pubSzczegoly = 0;
+  Nawigacja::Pokaz(przegladarka, rodzic);
 }

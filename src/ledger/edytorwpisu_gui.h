@@ -1,6 +1,7 @@
 #pragma once
-// Pieces the entry and transfer editors share: the date field, the pictures of the three kinds of
-// row, and the place where a picker opens beside a caption.
+// Pieces the entry, transfer, template, receipt and recurring rule editors share: the date field,
+// the pictures of the three kinds of row, the frames of a choice, their buttons and the pickers
+// that open beside a caption.
 
 #include <QDate>
 #include <QIcon>
@@ -43,3 +44,10 @@ QIcon IkonaWpisu(int rodzaj);
 
 // pubPozycjaX and pubPozycjaY for a picker: below the left end of the caption, on the screen.
 void PozycjaPrzy(const QWidget* etykieta);
+
+// A button of an editor: named, and never the default of the dialog by having the focus.
+QPushButton* NowyPrzycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic);
+
+// Opens a browser (frmPrzegladKont, frmPrzegladKategorii, frmPrzegladKontrahentow) as a picker
+// below the caption it fills; the choice comes back in the session's record.
+void PokazWybor(const QString& przegladarka, const QWidget* etykieta, QWidget* rodzic);

@@ -26,13 +26,6 @@
 #include "ui/nawigacja_gui.h"
 
 namespace {
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
-
 // A row of radio buttons named nazwa(i), i from 0, with the ids given.
 QGroupBox* opcje(const QString& tytul, const QString& nazwa, const QStringList& teksty,
                  const QList<int>& id, QButtonGroup*& grupa, QWidget* rodzic, int kolumn) {
@@ -116,25 +109,25 @@ void frmEdycjaOkresowych::zbuduj() {
   wiersz->addWidget(lblOpis);
   wiersz->addWidget(txtOpis_, 1);
 
-  auto* cmdKonto =
-      przycisk(QStringLiteral("cmdKonto"), Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
+  auto* cmdKonto = NowyPrzycisk(QStringLiteral("cmdKonto"),
+                                Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
   fraKonto_ = NowaRamkaWyboru(
       QStringLiteral("fraKonto"), Napis(QStringLiteral("frmEdycjaOkresowych22")), lblKonto_,
       QStringLiteral("lblKonto"), Napis(QStringLiteral("frmEdycjaOkresowych24")), cmdKonto, this);
-  auto* cmdNaKonto =
-      przycisk(QStringLiteral("cmdNaKonto"), Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
+  auto* cmdNaKonto = NowyPrzycisk(QStringLiteral("cmdNaKonto"),
+                                  Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
   fraNaKonto_ =
       NowaRamkaWyboru(QStringLiteral("fraNaKonto"), Napis(QStringLiteral("frmEdycjaOkresowych26")),
                       lblNaKonto_, QStringLiteral("lblNaKonto"),
                       Napis(QStringLiteral("frmEdycjaOkresowych24")), cmdNaKonto, this);
-  auto* cmdKategoria = przycisk(QStringLiteral("cmdKategoria"),
-                                Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
+  auto* cmdKategoria = NowyPrzycisk(QStringLiteral("cmdKategoria"),
+                                    Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
   fraKategoria_ = NowaRamkaWyboru(
       QStringLiteral("fraKategoria"), Napis(QStringLiteral("frmEdycjaOkresowych27")), lblKategoria_,
       QStringLiteral("lblKategoria"), Napis(QStringLiteral("frmEdycjaOkresowych28")), cmdKategoria,
       this);
-  auto* cmdKontrahent = przycisk(QStringLiteral("cmdKontrahent"),
-                                 Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
+  auto* cmdKontrahent = NowyPrzycisk(QStringLiteral("cmdKontrahent"),
+                                     Napis(QStringLiteral("frmEdycjaOkresowych25")), this);
   fraKontrahent_ = NowaRamkaWyboru(
       QStringLiteral("fraKontrahent"), Napis(QStringLiteral("frmEdycjaOkresowych29")),
       lblKontrahent_, QStringLiteral("lblKontrahent"),
@@ -183,13 +176,13 @@ void frmEdycjaOkresowych::zbuduj() {
   lblInfo->setWordWrap(true);
 
   auto* cmdOk =
-      przycisk(QStringLiteral("cmdOk"), Napis(QStringLiteral("frmEdycjaOkresowych47")), this);
+      NowyPrzycisk(QStringLiteral("cmdOk"), Napis(QStringLiteral("frmEdycjaOkresowych47")), this);
   cmdOk->setDefault(true);
   cmdOk->setAutoDefault(true);
-  auto* cmdAnuluj =
-      przycisk(QStringLiteral("cmdAnuluj"), Napis(QStringLiteral("frmEdycjaOkresowych48")), this);
-  auto* cmdPomoc =
-      przycisk(QStringLiteral("cmdPomoc"), Napis(QStringLiteral("frmEdycjaOkresowych49")), this);
+  auto* cmdAnuluj = NowyPrzycisk(QStringLiteral("cmdAnuluj"),
+                                 Napis(QStringLiteral("frmEdycjaOkresowych48")), this);
+  auto* cmdPomoc = NowyPrzycisk(QStringLiteral("cmdPomoc"),
+                                Napis(QStringLiteral("frmEdycjaOkresowych49")), this);
   // The help file is not part of this build.
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaOkresowych50")));
@@ -241,36 +234,27 @@ void frmEdycjaOkresowych::OdswiezEtykiety() {
 }
 
 void frmEdycjaOkresowych::wybierzKonto(KontoRekord& konto, QLabel* etykieta) {
-  PozycjaPrzy(etykieta);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
   const KontoRekord dawne = sesja.pubKonto;
   sesja.pubKonto = konto;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKont"), etykieta, this);
   konto = sesja.pubKonto;
   sesja.pubKonto = dawne;
   OdswiezEtykiety();
 }
 
 void frmEdycjaOkresowych::wybierzKategorie() {
-  PozycjaPrzy(lblKategoria_);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
   const KategoriaRekord dawna = sesja.pubKategoria;
   sesja.pubKategoria = kategoria_;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKategorii"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKategorii"), lblKategoria_, this);
   kategoria_.identyfikator = sesja.pubKategoria.identyfikator;
   sesja.pubKategoria = dawna;
   OdswiezEtykiety();
 }
 
 void frmEdycjaOkresowych::wybierzKontrahenta() {
-  PozycjaPrzy(lblKontrahent_);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
   const KontrahentRekord dawny = sesja.pubKontrahent;
   sesja.pubKontrahent = kontrahent_;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKontrahentow"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKontrahentow"), lblKontrahent_, this);
   kontrahent_ = sesja.pubKontrahent;
   sesja.pubKontrahent = dawny;
   OdswiezEtykiety();

@@ -14,15 +14,6 @@
 #include "store/napis.h"
 #include "ui/nawigacja_gui.h"
 
-namespace {
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
-}  // namespace
-
 frmEdycjaSzablonuWewnetrznego::frmEdycjaSzablonuWewnetrznego(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaSzablonuWewnetrznego"));
   edytorOtwarty_ = sesja.pubEdytorOtwarty;
@@ -42,14 +33,14 @@ frmEdycjaSzablonuWewnetrznego::frmEdycjaSzablonuWewnetrznego(QWidget* parent) : 
   pola->addRow(Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego2")), txtNazwa_);
   pola->addRow(Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego4")), txtOpis_);
 
-  auto* cmdZKonta = przycisk(QStringLiteral("cmdZKonta"),
-                             Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego7")), this);
+  auto* cmdZKonta = NowyPrzycisk(QStringLiteral("cmdZKonta"),
+                                 Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego7")), this);
   auto* fraZKonta = NowaRamkaWyboru(
       QStringLiteral("fraZKonta"), Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego5")),
       lblZKonta_, QStringLiteral("lblZKonta"),
       Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego6")), cmdZKonta, this);
-  auto* cmdNaKonto = przycisk(QStringLiteral("cmdNaKonto"),
-                              Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego10")), this);
+  auto* cmdNaKonto = NowyPrzycisk(QStringLiteral("cmdNaKonto"),
+                                  Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego10")), this);
   auto* fraNaKonto = NowaRamkaWyboru(
       QStringLiteral("fraNaKonto"), Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego8")),
       lblNaKonto_, QStringLiteral("lblNaKonto"),
@@ -57,14 +48,14 @@ frmEdycjaSzablonuWewnetrznego::frmEdycjaSzablonuWewnetrznego(QWidget* parent) : 
   connect(cmdZKonta, &QPushButton::clicked, this, [this] { wybierz(zKonta_, lblZKonta_); });
   connect(cmdNaKonto, &QPushButton::clicked, this, [this] { wybierz(naKonto_, lblNaKonto_); });
 
-  auto* cmdOk = przycisk(QStringLiteral("cmdOk"),
-                         Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego21")), this);
+  auto* cmdOk = NowyPrzycisk(QStringLiteral("cmdOk"),
+                             Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego21")), this);
   cmdOk->setDefault(true);
   cmdOk->setAutoDefault(true);
-  auto* cmdAnuluj = przycisk(QStringLiteral("cmdAnuluj"),
-                             Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego22")), this);
-  auto* cmdPomoc = przycisk(QStringLiteral("cmdPomoc"),
-                            Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego23")), this);
+  auto* cmdAnuluj = NowyPrzycisk(QStringLiteral("cmdAnuluj"),
+                                 Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego22")), this);
+  auto* cmdPomoc = NowyPrzycisk(QStringLiteral("cmdPomoc"),
+                                Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego23")), this);
   // The help file is not part of this build.
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaSzablonuWewnetrznego24")));
@@ -110,12 +101,9 @@ void frmEdycjaSzablonuWewnetrznego::OdswiezEtykiety() {
 }
 
 void frmEdycjaSzablonuWewnetrznego::wybierz(KontoRekord& konto, QLabel* etykieta) {
-  PozycjaPrzy(etykieta);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
   const KontoRekord dawne = sesja.pubKonto;
   sesja.pubKonto = konto;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKont"), etykieta, this);
   konto = sesja.pubKonto;
   sesja.pubKonto = dawne;
   OdswiezEtykiety();

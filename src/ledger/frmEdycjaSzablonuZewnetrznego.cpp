@@ -17,15 +17,6 @@
 #include "store/session.h"
 #include "ui/nawigacja_gui.h"
 
-namespace {
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
-}  // namespace
-
 frmEdycjaSzablonuZewnetrznego::frmEdycjaSzablonuZewnetrznego(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaSzablonuZewnetrznego"));
   edytorOtwarty_ = sesja.pubEdytorOtwarty;
@@ -47,20 +38,21 @@ frmEdycjaSzablonuZewnetrznego::frmEdycjaSzablonuZewnetrznego(QWidget* parent) : 
   pola->addRow(Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego3")), txtNazwa_);
   pola->addRow(Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego5")), txtOpis_);
 
-  auto* cmdKonto = przycisk(QStringLiteral("cmdKonto"),
-                            Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego9")), this);
+  auto* cmdKonto = NowyPrzycisk(QStringLiteral("cmdKonto"),
+                                Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego9")), this);
   auto* fraKonto = NowaRamkaWyboru(
       QStringLiteral("fraKonto"), Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego7")),
       lblKonto_, QStringLiteral("lblKonto"),
       Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego8")), cmdKonto, this);
-  auto* cmdKategoria = przycisk(QStringLiteral("cmdKategoria"),
-                                Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego12")), this);
+  auto* cmdKategoria = NowyPrzycisk(QStringLiteral("cmdKategoria"),
+                                    Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego12")), this);
   auto* fraKategoria = NowaRamkaWyboru(
       QStringLiteral("fraKategoria"), Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego10")),
       lblKategoria_, QStringLiteral("lblKategoria"),
       Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego11")), cmdKategoria, this);
-  auto* cmdKontrahent = przycisk(QStringLiteral("cmdKontrahent"),
-                                 Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego23")), this);
+  auto* cmdKontrahent =
+      NowyPrzycisk(QStringLiteral("cmdKontrahent"),
+                   Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego23")), this);
   auto* fraKontrahent = NowaRamkaWyboru(
       QStringLiteral("fraKontrahent"), Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego13")),
       lblKontrahent_, QStringLiteral("lblKontrahent"),
@@ -72,14 +64,14 @@ frmEdycjaSzablonuZewnetrznego::frmEdycjaSzablonuZewnetrznego(QWidget* parent) : 
   connect(cmdKontrahent, &QPushButton::clicked, this,
           [this] { wybierz(QStringLiteral("frmPrzegladKontrahentow"), lblKontrahent_); });
 
-  auto* cmdOk = przycisk(QStringLiteral("cmdOk"),
-                         Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego24")), this);
+  auto* cmdOk = NowyPrzycisk(QStringLiteral("cmdOk"),
+                             Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego24")), this);
   cmdOk->setDefault(true);
   cmdOk->setAutoDefault(true);
-  auto* cmdAnuluj = przycisk(QStringLiteral("cmdAnuluj"),
-                             Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego25")), this);
-  auto* cmdPomoc = przycisk(QStringLiteral("cmdPomoc"),
-                            Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego26")), this);
+  auto* cmdAnuluj = NowyPrzycisk(QStringLiteral("cmdAnuluj"),
+                                 Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego25")), this);
+  auto* cmdPomoc = NowyPrzycisk(QStringLiteral("cmdPomoc"),
+                                Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego26")), this);
   // The help file is not part of this build.
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaSzablonuZewnetrznego27")));
@@ -135,11 +127,8 @@ void frmEdycjaSzablonuZewnetrznego::OdswiezEtykiety() {
 }
 
 void frmEdycjaSzablonuZewnetrznego::wybierz(const QString& przegladarka, QLabel* etykieta) {
-  PozycjaPrzy(etykieta);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
   sesja.pubKategoria.rodzaj = sesja.pubSzablonRodzaj;
-  Nawigacja::Pokaz(przegladarka, this);
+  PokazWybor(przegladarka, etykieta, this);
   OdswiezEtykiety();
 }
 

@@ -25,17 +25,6 @@
 #include "store/tekst.h"
 #include "ui/nawigacja_gui.h"
 
-namespace {
-
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
-
-}  // namespace
-
 frmEdycjaTransakcji::frmEdycjaTransakcji(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaTransakcji"));
   sesja.pubEdytorOtwarty = true;
@@ -120,22 +109,22 @@ void frmEdycjaTransakcji::zbuduj() {
   opis->addWidget(lblOpis);
   opis->addWidget(txtOpis_, 1);
 
-  cmdWybierzKonto_ = przycisk(QStringLiteral("cmdWybierzKonto"),
-                              Napis(QStringLiteral("frmEdycjaTransakcji10")), this);
+  cmdWybierzKonto_ = NowyPrzycisk(QStringLiteral("cmdWybierzKonto"),
+                                  Napis(QStringLiteral("frmEdycjaTransakcji10")), this);
   cmdWybierzKonto_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji11")));
   fraKonto_ =
       NowaRamkaWyboru(QStringLiteral("fraKonto"), Napis(QStringLiteral("frmEdycjaTransakcji8")),
                       lblKonto_, QStringLiteral("lblKonto"),
                       Napis(QStringLiteral("frmEdycjaTransakcji9")), cmdWybierzKonto_, this);
-  cmdWybierzKategorie_ = przycisk(QStringLiteral("cmdWybierzKategorie"),
-                                  Napis(QStringLiteral("frmEdycjaTransakcji14")), this);
+  cmdWybierzKategorie_ = NowyPrzycisk(QStringLiteral("cmdWybierzKategorie"),
+                                      Napis(QStringLiteral("frmEdycjaTransakcji14")), this);
   cmdWybierzKategorie_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji15")));
   fraKategoria_ = NowaRamkaWyboru(
       QStringLiteral("fraKategoria"), Napis(QStringLiteral("frmEdycjaTransakcji12")), lblKategoria_,
       QStringLiteral("lblKategoria"), Napis(QStringLiteral("frmEdycjaTransakcji13")),
       cmdWybierzKategorie_, this);
-  cmdWybierzKontrahenta_ = przycisk(QStringLiteral("cmdWybierzKontrahenta"),
-                                    Napis(QStringLiteral("frmEdycjaTransakcji18")), this);
+  cmdWybierzKontrahenta_ = NowyPrzycisk(QStringLiteral("cmdWybierzKontrahenta"),
+                                        Napis(QStringLiteral("frmEdycjaTransakcji18")), this);
   cmdWybierzKontrahenta_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji19")));
   fraKontrahent_ = NowaRamkaWyboru(
       QStringLiteral("fraKontrahent"), Napis(QStringLiteral("frmEdycjaTransakcji16")),
@@ -148,19 +137,20 @@ void frmEdycjaTransakcji::zbuduj() {
   connect(cmdWybierzKontrahenta_, &QPushButton::clicked, this,
           &frmEdycjaTransakcji::cmdWybierzKontrahenta_Click);
 
-  cmdWybierzSzablon_ = przycisk(QStringLiteral("cmdWybierzSzablon"),
-                                Napis(QStringLiteral("frmEdycjaTransakcji20")), this);
-  cmdRealizuj_ =
-      przycisk(QStringLiteral("cmdRealizuj"), Napis(QStringLiteral("frmEdycjaTransakcji21")), this);
+  cmdWybierzSzablon_ = NowyPrzycisk(QStringLiteral("cmdWybierzSzablon"),
+                                    Napis(QStringLiteral("frmEdycjaTransakcji20")), this);
+  cmdRealizuj_ = NowyPrzycisk(QStringLiteral("cmdRealizuj"),
+                              Napis(QStringLiteral("frmEdycjaTransakcji21")), this);
   cmdRealizuj_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji25")));
-  cmdOk_ = przycisk(QStringLiteral("cmdOk"), Napis(QStringLiteral("frmEdycjaTransakcji22")), this);
+  cmdOk_ =
+      NowyPrzycisk(QStringLiteral("cmdOk"), Napis(QStringLiteral("frmEdycjaTransakcji22")), this);
   cmdOk_->setDefault(true);
   cmdOk_->setAutoDefault(true);
-  auto* cmdAnuluj =
-      przycisk(QStringLiteral("cmdAnuluj"), Napis(QStringLiteral("frmEdycjaTransakcji23")), this);
+  auto* cmdAnuluj = NowyPrzycisk(QStringLiteral("cmdAnuluj"),
+                                 Napis(QStringLiteral("frmEdycjaTransakcji23")), this);
   // The help file is not part of this build.
-  auto* cmdPomoc =
-      przycisk(QStringLiteral("cmdPomoc"), Napis(QStringLiteral("frmEdycjaTransakcji24")), this);
+  auto* cmdPomoc = NowyPrzycisk(QStringLiteral("cmdPomoc"),
+                                Napis(QStringLiteral("frmEdycjaTransakcji24")), this);
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcji64")));
   connect(cmdWybierzSzablon_, &QPushButton::clicked, this,
@@ -232,26 +222,17 @@ void frmEdycjaTransakcji::OdswiezEtykiety() {
 }
 
 void frmEdycjaTransakcji::cmdWybierzKonto_Click() {
-  PozycjaPrzy(lblKonto_);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKont"), lblKonto_, this);
   OdswiezEtykiety();
 }
 
 void frmEdycjaTransakcji::cmdWybierzKategorie_Click() {
-  PozycjaPrzy(lblKategoria_);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKategorii"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKategorii"), lblKategoria_, this);
   OdswiezEtykiety();
 }
 
 void frmEdycjaTransakcji::cmdWybierzKontrahenta_Click() {
-  PozycjaPrzy(lblKontrahent_);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKontrahentow"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKontrahentow"), lblKontrahent_, this);
   OdswiezEtykiety();
 }
 

@@ -20,17 +20,6 @@
 #include "store/tekst.h"
 #include "ui/nawigacja_gui.h"
 
-namespace {
-
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
-
-}  // namespace
-
 frmEdycjaTransakcjiWewnetrznej::frmEdycjaTransakcjiWewnetrznej(QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("frmEdycjaTransakcjiWewnetrznej"));
   zbuduj();
@@ -108,15 +97,15 @@ void frmEdycjaTransakcjiWewnetrznej::zbuduj() {
   opis->addWidget(lblOpis);
   opis->addWidget(txtOpis_, 1);
 
-  cmdZKonta_ = przycisk(QStringLiteral("cmdZKonta"),
-                        Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej10")), this);
+  cmdZKonta_ = NowyPrzycisk(QStringLiteral("cmdZKonta"),
+                            Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej10")), this);
   cmdZKonta_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej11")));
   auto* fraZKonta = NowaRamkaWyboru(
       QStringLiteral("fraZKonta"), Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej8")),
       lblZKonta_, QStringLiteral("lblZKonta"),
       Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej9")), cmdZKonta_, this);
-  cmdNaKonto_ = przycisk(QStringLiteral("cmdNaKonto"),
-                         Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej14")), this);
+  cmdNaKonto_ = NowyPrzycisk(QStringLiteral("cmdNaKonto"),
+                             Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej14")), this);
   cmdNaKonto_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej15")));
   auto* fraNaKonto = NowaRamkaWyboru(
       QStringLiteral("fraNaKonto"), Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej12")),
@@ -127,20 +116,20 @@ void frmEdycjaTransakcjiWewnetrznej::zbuduj() {
   connect(cmdNaKonto_, &QPushButton::clicked, this,
           &frmEdycjaTransakcjiWewnetrznej::cmdNaKonto_Click);
 
-  cmdSzablon_ = przycisk(QStringLiteral("cmdSzablon"),
-                         Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej16")), this);
-  cmdRealizuj_ = przycisk(QStringLiteral("cmdRealizuj"),
-                          Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej17")), this);
+  cmdSzablon_ = NowyPrzycisk(QStringLiteral("cmdSzablon"),
+                             Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej16")), this);
+  cmdRealizuj_ = NowyPrzycisk(QStringLiteral("cmdRealizuj"),
+                              Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej17")), this);
   cmdRealizuj_->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej49")));
-  cmdOK_ = przycisk(QStringLiteral("cmdOK"),
-                    Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej18")), this);
+  cmdOK_ = NowyPrzycisk(QStringLiteral("cmdOK"),
+                        Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej18")), this);
   cmdOK_->setDefault(true);
   cmdOK_->setAutoDefault(true);
-  auto* cmdAnuluj = przycisk(QStringLiteral("cmdAnuluj"),
-                             Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej19")), this);
+  auto* cmdAnuluj = NowyPrzycisk(QStringLiteral("cmdAnuluj"),
+                                 Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej19")), this);
   // The help file is not part of this build.
-  auto* cmdPomoc = przycisk(QStringLiteral("cmdPomoc"),
-                            Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej47")), this);
+  auto* cmdPomoc = NowyPrzycisk(QStringLiteral("cmdPomoc"),
+                                Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej47")), this);
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmEdycjaTransakcjiWewnetrznej50")));
   connect(cmdSzablon_, &QPushButton::clicked, this,
@@ -187,12 +176,9 @@ void frmEdycjaTransakcjiWewnetrznej::OdswiezEtykiety() {
 }
 
 void frmEdycjaTransakcjiWewnetrznej::wybierzKonto(KontoRekord& konto, QLabel* etykieta) {
-  PozycjaPrzy(etykieta);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
   // The browser works on pubKonto; its balance is the only source of the record's.
   sesja.pubKonto = konto;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKont"), etykieta, this);
   konto = sesja.pubKonto;
   OdswiezEtykiety();
 }

@@ -1,5 +1,6 @@
 #include "ledger/frmOkresowe.h"
 
+#include <QFontMetrics>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,6 +10,7 @@
 #include <QSpinBox>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ledger/edytorwpisu_gui.h"
 #include "store/napis.h"
@@ -61,7 +63,17 @@ void frmOkresowe::zbuduj() {
                            QStringLiteral("frmOkresowe10"), QStringLiteral("frmOkresowe11")})
     naglowki << Napis(k);
   lvw_->setHeaderLabels(naglowki);
-  const int szerokosci[] = {170, 75, 110, 155, 120, 100, 120, 195};
+  // The frequency and the period take the width of their longest text in the edition's language,
+  // so that a closed period or "weekdays only" is never cut.
+  const QFontMetrics fm(lvw_->font());
+  int czestotliwosc = 0;
+  for (int c = Codziennie; c <= CoRok; ++c)
+    czestotliwosc = std::max(czestotliwosc, fm.horizontalAdvance(NazwaCzestotliwosci(c)));
+  RegulaOkresowa wzor;
+  wzor.od = QDate(2028, 12, 28);
+  wzor.do_ = QDate(2029, 12, 28);
+  const int okres = fm.horizontalAdvance(OpisOkresuReguly(wzor));
+  const int szerokosci[] = {165, 70, 110, 150, 120, 95, czestotliwosc + 16, okres + 16};
   for (int i = 0; i < 8; ++i) lvw_->setColumnWidth(i, szerokosci[i]);
   lvw_->setMinimumHeight(280);
   lvw_->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -114,7 +126,9 @@ void frmOkresowe::zbuduj() {
   uklad->addLayout(gora);
   uklad->addWidget(lvw_, 1);
   uklad->addLayout(dol);
-  resize(1060, 440);
+  int razem = 0;
+  for (int w : szerokosci) razem += w;
+  resize(std::max(1060, razem + 40), 440);
 }
 
 void frmOkresowe::OdswiezListe() {

@@ -25,12 +25,6 @@
 #include "ui/nawigacja_gui.h"
 
 namespace {
-QPushButton* przycisk(const QString& nazwa, const QString& tekst, QWidget* rodzic) {
-  auto* b = new QPushButton(tekst, rodzic);
-  b->setObjectName(nazwa);
-  b->setAutoDefault(false);
-  return b;
-}
 QString tablicowa(const char* nazwa, int n) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(nazwa)).arg(n);
 }
@@ -69,13 +63,13 @@ void frmParagon::zbuduj() {
   (new QHBoxLayout(fraData))->addWidget(dtpData_);
 
   auto* cmdWybierzKonto =
-      przycisk(QStringLiteral("cmdWybierzKonto"), Napis(QStringLiteral("frmParagon6")), this);
+      NowyPrzycisk(QStringLiteral("cmdWybierzKonto"), Napis(QStringLiteral("frmParagon6")), this);
   cmdWybierzKonto->setToolTip(Napis(QStringLiteral("frmParagon7")));
   auto* fraKonto = NowaRamkaWyboru(QStringLiteral("fraKonto"), Napis(QStringLiteral("frmParagon4")),
                                    lblKonto_, QStringLiteral("lblKonto"),
                                    Napis(QStringLiteral("frmParagon5")), cmdWybierzKonto, this);
-  auto* cmdWybierzKontrahenta = przycisk(QStringLiteral("cmdWybierzKontrahenta"),
-                                         Napis(QStringLiteral("frmParagon10")), this);
+  auto* cmdWybierzKontrahenta = NowyPrzycisk(QStringLiteral("cmdWybierzKontrahenta"),
+                                             Napis(QStringLiteral("frmParagon10")), this);
   cmdWybierzKontrahenta->setToolTip(Napis(QStringLiteral("frmParagon11")));
   auto* fraKontrahent =
       NowaRamkaWyboru(QStringLiteral("fraKontrahent"), Napis(QStringLiteral("frmParagon8")),
@@ -129,8 +123,8 @@ void frmParagon::zbuduj() {
     kat->setObjectName(tablicowa("lblKategoria", n));
     kat->setMinimumWidth(200);
     lblKategoria_[i] = kat;
-    auto* wybierz =
-        przycisk(tablicowa("cmdWybierzKategorie", n), Napis(QStringLiteral("frmParagon18")), this);
+    auto* wybierz = NowyPrzycisk(tablicowa("cmdWybierzKategorie", n),
+                                 Napis(QStringLiteral("frmParagon18")), this);
     wybierz->setToolTip(Napis(QStringLiteral("frmParagon19")));
     connect(wybierz, &QPushButton::clicked, this, [this, n] { cmdWybierzKategorie_Click(n); });
     const PoleZKalkulatorem kwota =
@@ -146,7 +140,8 @@ void frmParagon::zbuduj() {
     opis->setMaxLength(DlugoscOpisu - 1);
     opis->setMinimumWidth(220);
     txtOpis_[i] = opis;
-    auto* kasuj = przycisk(tablicowa("cmdKasuj", n), Napis(QStringLiteral("frmParagon20")), this);
+    auto* kasuj =
+        NowyPrzycisk(tablicowa("cmdKasuj", n), Napis(QStringLiteral("frmParagon20")), this);
     kasuj->setToolTip(Napis(QStringLiteral("frmParagon21")));
     connect(kasuj, &QPushButton::clicked, this, [this, n] { cmdKasuj_Click(n); });
     siatka->addWidget(lp, n, 0);
@@ -169,13 +164,13 @@ void frmParagon::zbuduj() {
   lblSuma_->setFont(f);
   lblSuma_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-  auto* cmdOk = przycisk(QStringLiteral("cmdOk"), Napis(QStringLiteral("frmParagon23")), this);
+  auto* cmdOk = NowyPrzycisk(QStringLiteral("cmdOk"), Napis(QStringLiteral("frmParagon23")), this);
   cmdOk->setDefault(true);
   cmdOk->setAutoDefault(true);
   auto* cmdAnuluj =
-      przycisk(QStringLiteral("cmdAnuluj"), Napis(QStringLiteral("frmParagon24")), this);
+      NowyPrzycisk(QStringLiteral("cmdAnuluj"), Napis(QStringLiteral("frmParagon24")), this);
   auto* cmdPomoc =
-      przycisk(QStringLiteral("cmdPomoc"), Napis(QStringLiteral("frmParagon25")), this);
+      NowyPrzycisk(QStringLiteral("cmdPomoc"), Napis(QStringLiteral("frmParagon25")), this);
   // The help file is not part of this build.
   cmdPomoc->setEnabled(false);
   cmdPomoc->setToolTip(Napis(QStringLiteral("frmParagon26")));
@@ -238,12 +233,9 @@ void frmParagon::UstawKategorie(int n, const QString& identyfikator) {
 }
 
 void frmParagon::cmdWybierzKategorie_Click(int n) {
-  PozycjaPrzy(lblKategoria_[size_t(n - 1)]);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
   sesja.pubKategoria.identyfikator = identyfikatory_[size_t(n)];
   sesja.pubKategoria.rodzaj = 2;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKategorii"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKategorii"), lblKategoria_[size_t(n - 1)], this);
   UstawKategorie(n, sesja.pubKategoria.identyfikator);
 }
 
@@ -255,19 +247,13 @@ void frmParagon::OdswiezEtykiety() {
 }
 
 void frmParagon::cmdWybierzKonto_Click() {
-  PozycjaPrzy(lblKonto_);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKont"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKont"), lblKonto_, this);
   sesja.pubKonto.datautworzenia = DataUtworzeniaKonta(sesja.pubKonto.id);
   OdswiezEtykiety();
 }
 
 void frmParagon::cmdWybierzKontrahenta_Click() {
-  PozycjaPrzy(lblKontrahent_);
-  sesja.pubTrybPrzegladu = 2;
-  sesja.pubSzczegoly = 0;
-  Nawigacja::Pokaz(QStringLiteral("frmPrzegladKontrahentow"), this);
+  PokazWybor(QStringLiteral("frmPrzegladKontrahentow"), lblKontrahent_, this);
   OdswiezEtykiety();
 }
 

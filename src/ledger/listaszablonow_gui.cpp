@@ -118,8 +118,12 @@ void ListaSzablonowGui::zbuduj(const NapisyListySzablonow& n) {
 
 void ListaSzablonowGui::OdswiezListe() {
   const QString klucz = txtKlucz_->text();
-  wiersze_ = wewnetrzny_ ? ListaSzablonowWewnetrznych(klucz)
-                         : ListaSzablonow(sesja.pubSzablonRodzaj, klucz);
+  std::vector<WierszSzablonu> nowe = wewnetrzny_ ? ListaSzablonowWewnetrznych(klucz)
+                                                 : ListaSzablonow(sesja.pubSzablonRodzaj, klucz);
+  // A letter that leaves the same rows (the first letters of a word often do) leaves the list
+  // and the line the user stands on alone.
+  if (nowe == wiersze_ && lvw_->topLevelItemCount() == int(wiersze_.size())) return;
+  wiersze_ = std::move(nowe);
   lvw_->setUpdatesEnabled(false);
   lvw_->clear();
   QList<QTreeWidgetItem*> linie;

@@ -3,6 +3,7 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <set>
 
 #include "ledger/transakcje.h"
@@ -59,9 +60,22 @@ class Surowe {
     sqlite3_bind_double(st_, i, v);
     return *this;
   }
-  Surowe& operator()(int i, const QString& v) {
-    const QByteArray u = v.toUtf8();
-    sqlite3_bind_text(st_, i, u.constData(), int(u.size()), SQLITE_TRANSIENT);
+  Surowe& operator()(int i, const QString& v) { return (*this)(i, v.toUtf8()); }
+  Surowe& operator()(int i, const QByteArray& v) {
+    sqlite3_bind_text(st_, i, v.constData(), int(v.size()), SQLITE_TRANSIENT);
+    return *this;
+  }
+  // A day as the store keeps it (YYYY-MM-DD), written without a detour through QString.
+  Surowe& operator()(int i, const QDate& d) {
+    char t[16];
+    const int n = std::snprintf(t, sizeof t, "%04d-%02d-%02d", d.year(), d.month(), d.day());
+    sqlite3_bind_text(st_, i, t, n, SQLITE_TRANSIENT);
+    return *this;
+  }
+  // Makes a read ready to be bound and stepped again.
+  Surowe& Od() {
+    sqlite3_reset(st_);
+    sqlite3_clear_bindings(st_);
     return *this;
   }
   // Runs a write; false (logged) when it fails.
@@ -118,8 +132,22 @@ bool maPodstawy(const RegulaOkresowa& r) {
                    SqlTekst(r.kategoria)) > 0;
 }
 
-// Plans the rule's days after its last planned one up to the horizon; inside a transaction.
-bool generujRegule(const RegulaOkresowa& r, const QDate& granica, qint64& wiersze) {
+// The statements of one generation, prepared once and bound anew for every row: a year of daily
+// rules writes tens of thousands of rows.
+struct Zapisy {
+  Surowe dni{"SELECT data FROM okresowedni WHERE okresowa=? AND data>=? AND data<=?"};
+  Surowe wpis{
+      "INSERT INTO zaplanowane (data,rodzaj,przychod,wydatek,opis,kategoria,konto,kontrahent) "
+      "VALUES (?,?,?,?,?,?,?,?)"};
+  Surowe przelew{
+      "INSERT INTO zaplanowanewewnetrzne (data,kwota,opis,zkonta,nakonto) VALUES (?,?,?,?,?)"};
+  Surowe dzien{"INSERT INTO okresowedni (okresowa,data,wiersz) VALUES (?,?,?)"};
+  Surowe znacznik{"UPDATE okresowe SET wygenerowanodo=? WHERE id=?"};
+};
+
+// Plans the rule's days after its last planned one up to the horizon; inside a transaction. The
+// rule's days already planned in that stretch are read once, not asked for day by day.
+bool generujRegule(Zapisy& z, const RegulaOkresowa& r, const QDate& granica, qint64& wiersze) {
   QDate koniec = granica;
   if (r.do_.isValid()) koniec = std::min(koniec, r.do_);
   QDate od = r.od;
@@ -127,34 +155,28 @@ bool generujRegule(const RegulaOkresowa& r, const QDate& granica, qint64& wiersz
   if (od > koniec || !maPodstawy(r)) return true;
 
   std::set<QDate> zaplanowane;
-  Surowe dni("SELECT data FROM okresowedni WHERE okresowa=? AND data>=? AND data<=?");
-  dni(1, r.id)(2, iso(od))(3, iso(koniec));
-  while (dni.Wiersz()) zaplanowane.insert(zIso(dni.Tekst(0)));
+  z.dni.Od()(1, r.id)(2, od)(3, koniec);
+  while (z.dni.Wiersz()) zaplanowane.insert(zIso(z.dni.Tekst(0)));
 
   const bool przelew = r.rodzaj == 3;
-  Surowe wpis(przelew ? "INSERT INTO zaplanowanewewnetrzne (data,kwota,opis,zkonta,nakonto) "
-                        "VALUES (?,?,?,?,?)"
-                      : "INSERT INTO zaplanowane (data,rodzaj,przychod,wydatek,opis,kategoria,"
-                        "konto,kontrahent) VALUES (?,?,?,?,?,?,?,?)");
-  Surowe dzien("INSERT INTO okresowedni (okresowa,data,wiersz) VALUES (?,?,?)");
   const double kwota = ZaokraglijDoGroszy(r.kwota);
   // Descriptions are stored as the editors store theirs, with two trailing blanks.
-  const QString opis = r.opis + QStringLiteral("  ");
+  const QByteArray opis = (r.opis + QStringLiteral("  ")).toUtf8();
+  const QByteArray kategoria = r.kategoria.toUtf8();
+  sqlite3* db = pubBaza().Uchwyt();
   for (const Termin& t : TerminyReguly(r, od, koniec)) {
     if (zaplanowane.count(t.dzien)) continue;
-    if (przelew)
-      wpis(1, iso(t.data))(2, kwota)(3, opis)(4, r.konto)(5, r.naKonto);
-    else
-      wpis(1, iso(t.data))(2, qint64(r.rodzaj))(3, r.rodzaj == 1 ? kwota : 0.0)(
-          4, r.rodzaj == 1 ? 0.0 : kwota)(5, opis)(6, r.kategoria)(7, r.konto)(8, r.kontrahent);
-    if (!wpis.Wykonaj()) return false;
-    if (!dzien(1, r.id)(2, iso(t.dzien))(3, qint64(sqlite3_last_insert_rowid(pubBaza().Uchwyt())))
-             .Wykonaj())
+    const bool ok =
+        przelew ? z.przelew(1, t.data)(2, kwota)(3, opis)(4, r.konto)(5, r.naKonto).Wykonaj()
+                : z.wpis(1, t.data)(2, qint64(r.rodzaj))(3, r.rodzaj == 1 ? kwota : 0.0)(
+                       4, r.rodzaj == 1 ? 0.0 : kwota)(5, opis)(6, kategoria)(7, r.konto)(
+                       8, r.kontrahent)
+                      .Wykonaj();
+    if (!ok || !z.dzien(1, r.id)(2, t.dzien)(3, qint64(sqlite3_last_insert_rowid(db))).Wykonaj())
       return false;
     ++wiersze;
   }
-  Surowe znacznik("UPDATE okresowe SET wygenerowanodo=? WHERE id=?");
-  return znacznik(1, iso(koniec))(2, r.id).Wykonaj();
+  return z.znacznik(1, koniec)(2, r.id).Wykonaj();
 }
 
 std::vector<RegulaOkresowa> wszystkieReguly() {
@@ -165,10 +187,10 @@ std::vector<RegulaOkresowa> wszystkieReguly() {
   return w;
 }
 
-bool generuj(const QDate& dzis, int horyzont, qint64& wiersze) {
-  const QDate granica = dzis.addDays(horyzont);
-  for (const RegulaOkresowa& r : wszystkieReguly())
-    if (!generujRegule(r, granica, wiersze)) return false;
+bool generuj(const std::vector<RegulaOkresowa>& reguly, const QDate& granica, qint64& wiersze) {
+  Zapisy z;
+  for (const RegulaOkresowa& r : reguly)
+    if (!generujRegule(z, r, granica, wiersze)) return false;
   return true;
 }
 
@@ -190,6 +212,56 @@ bool usunOczekujace(qint64 id, int rodzaj, const QDate& od) {
   Surowe dzien("DELETE FROM okresowedni WHERE okresowa=? AND data=?");
   for (const auto& [w, d] : doUsuniecia)
     if (!wiersz(1, w).Wykonaj() || !dzien(1, id)(2, d).Wykonaj()) return false;
+  return true;
+}
+
+// How far apart a frequency's days stand at most, in days.
+int krokDni(int czestotliwosc) {
+  switch (czestotliwosc) {
+    case CoTydzien:
+      return 7;
+    default:
+      return 31 * miesiaceKroku(czestotliwosc);
+  }
+}
+
+// The new day that takes the place of a day the user already took care of: a weekly rule's day
+// of the same week (Monday to Sunday), a monthly rule's day of the same month, and for the longer
+// periods the nearest day. Null when there is none.
+QDate tenSamTermin(const RegulaOkresowa& r, const QDate& x) {
+  const int krok = krokDni(r.czestotliwosc);
+  QDate wynik;
+  for (const Termin& t : TerminyReguly(r, x.addDays(-krok), x.addDays(krok))) {
+    const QDate& d = t.dzien;
+    if (r.czestotliwosc == CoTydzien) {
+      if (d.addDays(1 - d.dayOfWeek()) == x.addDays(1 - x.dayOfWeek())) return d;
+    } else if (r.czestotliwosc == CoMiesiac) {
+      if (d.year() == x.year() && d.month() == x.month()) return d;
+    } else if (!wynik.isValid() || std::abs(d.daysTo(x)) < std::abs(wynik.daysTo(x))) {
+      wynik = d;
+    }
+  }
+  return r.czestotliwosc == CoTydzien || r.czestotliwosc == CoMiesiac ? QDate() : wynik;
+}
+
+// A rule moved to other days at the same frequency (a new first day): each day the rule already
+// made that is not planned anew (its row is past, or the user realised or deleted it) marks the
+// new day of the same week or month as planned, so that a week or month already paid or planned
+// does not come twice. Runs after the rows still waiting from today went. Daily and weekday rules
+// keep their days, which need nothing more.
+bool zachowajZalatwione(const RegulaOkresowa& r, const QDate& dzis) {
+  if (r.czestotliwosc == Codziennie || r.czestotliwosc == DniPowszednie) return true;
+  std::vector<QDate> zalatwione;
+  {
+    Surowe s("SELECT data FROM okresowedni WHERE okresowa=? AND data>=?");
+    s(1, r.id)(2, dzis.addDays(-krokDni(r.czestotliwosc)));
+    while (s.Wiersz()) zalatwione.push_back(zIso(s.Tekst(0)));
+  }
+  Surowe oznacz("INSERT OR IGNORE INTO okresowedni (okresowa,data,wiersz) VALUES (?,?,0)");
+  for (const QDate& x : zalatwione) {
+    const QDate d = tenSamTermin(r, x);
+    if (d.isValid() && d >= dzis && !oznacz(1, r.id)(2, d).Wykonaj()) return false;
+  }
   return true;
 }
 
@@ -379,9 +451,12 @@ bool ZapiszOkresowa(RegulaOkresowa r, qint64* id) {
       if (!b.Wykonaj(QStringLiteral("UPDATE okresowe SET ") + set.join(QStringLiteral(", ")) +
                      QStringLiteral(" WHERE id=") + QString::number(r.id)))
         return false;
+      if (dawna->czestotliwosc == r.czestotliwosc && dawna->od != r.od &&
+          !zachowajZalatwione(r, dzis))
+        return false;
     }
     qint64 wiersze = 0;
-    return generuj(dzis, horyzont, wiersze);
+    return generuj(wszystkieReguly(), dzis.addDays(horyzont), wiersze);
   });
   if (!ok) {
     blad(Napis(QStringLiteral("frmEdycjaOkresowych42")),
@@ -442,11 +517,7 @@ WynikGenerowania GenerujOkresowe(const QDate& dzis, int horyzont) {
     return !r.wygenerowanoDo.isValid() || r.wygenerowanoDo < koniec;
   });
   if (!praca) return w;
-  w.ok = pubBaza().Transakcja([&] {
-    for (const RegulaOkresowa& r : reguly)
-      if (!generujRegule(r, granica, w.wiersze)) return false;
-    return true;
-  });
+  w.ok = pubBaza().Transakcja([&] { return generuj(reguly, granica, w.wiersze); });
   if (!w.ok) {
     w.wiersze = 0;
     return w;

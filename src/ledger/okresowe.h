@@ -70,8 +70,11 @@ std::optional<RegulaOkresowa> CzytajOkresowa(qint64 id);
 
 // The editor's OK: the checks in order (amount, account, category or target account, the same
 // account twice, an end before the start), each refusal a message; then the rule is stored and
-// planned anew from today on (its planned rows from today that still wait are replaced), all as
-// one change. True when stored (with the rule's id in id when given).
+// planned anew from today on (its planned rows from today that still wait are replaced, at the new
+// amount), all as one change. A day whose row the user already realised or deleted stays done;
+// when the rule moves to another first day at the same frequency, the new day of that week or
+// month (the nearest one for longer periods) stays done instead, so a week or month already paid
+// does not come back. True when stored (with the rule's id in id when given).
 bool ZapiszOkresowa(RegulaOkresowa r, qint64* id = nullptr);
 // Deletes the rule after a question, and its planned rows from today on that still wait when the
 // user says so (a second question). True when the rule went.

@@ -1,9 +1,13 @@
 #include "ledger/szablony.h"
 
+#include <sqlcipher/sqlite3.h>
+
 #include "ledger/transakcje.h"
 #include "store/MsgBoxModule.h"
 #include "store/baza.h"
+#include "store/dziennik.h"
 #include "store/filtr.h"
+#include "store/jet.h"
 #include "store/napis.h"
 
 namespace {
@@ -21,6 +25,73 @@ bool zapisano(const WynikZapisu& w, const QString& tekst, const QString& tytul) 
   if (w) return true;
   MyMsgbox(tekst + QStringLiteral("\r\n") + w.blad, tytul, MsgOK, IkonaOstrzezenie);
   return false;
+}
+
+// The names one of the reads below gives a template's columns (each read keeps its own
+// statement); an empty name is a column that read does not have.
+struct KolumnySzablonu {
+  QString konto, nazwaKonta, rodzajKonta;
+  QString naKonto, nazwaNaKonta, rodzajNaKonta;
+  QString kategoria, nazwaKategorii;
+  QString kontrahent, nazwaKontrahenta;
+};
+
+// The one reader that fills a template from a row of any read. rodzaj is the template's kind when
+// the row has no "rodzaj" column.
+Szablon szablonZ(const Rekordy& rs, qint64 id, int rodzaj, const KolumnySzablonu& k) {
+  const auto liczba = [&rs](const QString& n) { return n.isEmpty() ? 0 : rs.Pole(n).toLongLong(); };
+  const auto tekst = [&rs](const QString& n) { return n.isEmpty() ? QString() : rs.Tekst(n); };
+  Szablon s;
+  s.id = id;
+  s.rodzaj = rs.NazwyPol().contains(QStringLiteral("rodzaj"), Qt::CaseInsensitive)
+                 ? int(PoleRekordu(rs, QStringLiteral("rodzaj")))
+                 : rodzaj;
+  s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
+  s.opis = rs.Tekst(QStringLiteral("opis"));
+  s.konto.id = liczba(k.konto);
+  s.konto.nazwa = tekst(k.nazwaKonta);
+  s.konto.rodzaj = int(liczba(k.rodzajKonta));
+  s.naKonto.id = liczba(k.naKonto);
+  s.naKonto.nazwa = tekst(k.nazwaNaKonta);
+  s.naKonto.rodzaj = int(liczba(k.rodzajNaKonta));
+  if (!k.kategoria.isEmpty()) {
+    s.kategoria.identyfikator = Oczysc(rs.Pole(k.kategoria));
+    s.kategoria.nazwa = tekst(k.nazwaKategorii);
+    s.kategoria.rodzaj = s.rodzaj;
+  }
+  s.kontrahent.id = liczba(k.kontrahent);
+  s.kontrahent.skrocona = tekst(k.nazwaKontrahenta);
+  return s;
+}
+
+// The lists are refilled for every letter typed: their rows are stepped straight from the
+// translated statement, each column read by its place, rather than gathered into a recordset
+// first. A failed read is logged and gives no rows.
+template <class F>
+void przejdzListe(const QString& jetSql, F&& wiersz) {
+  if (!OtworzBaze()) return;
+  sqlite3* db = pubBaza().Uchwyt();
+  const QByteArray sql = TlumaczJet(jetSql).toUtf8();
+  sqlite3_stmt* st = nullptr;
+  if (sqlite3_prepare_v2(db, sql.constData(), int(sql.size()), &st, nullptr) != SQLITE_OK) {
+    ZapiszLog(
+        QStringLiteral("read failed: %1 | %2")
+            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
+    sqlite3_finalize(st);
+    return;
+  }
+  const auto tekst = [st](int k) {
+    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, k)),
+                             sqlite3_column_bytes(st, k));
+  };
+  const auto liczba = [st](int k) { return sqlite3_column_int64(st, k); };
+  int kod;
+  while ((kod = sqlite3_step(st)) == SQLITE_ROW) wiersz(tekst, liczba);
+  if (kod != SQLITE_DONE)
+    ZapiszLog(
+        QStringLiteral("read failed: %1 | %2")
+            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
+  sqlite3_finalize(st);
 }
 
 }  // namespace
@@ -64,37 +135,33 @@ QString SqlListySzablonowWewnetrznych(const QString& klucz) {
 }
 
 std::vector<WierszSzablonu> ListaSzablonow(int rodzaj, const QString& klucz) {
-  OtworzBaze();
   std::vector<WierszSzablonu> w;
-  for (Rekordy rs = pubBaza().Czytaj(SqlListySzablonow(rodzaj, klucz)); !rs.Eof(); rs.MoveNext()) {
+  // Columns: id, rodzaj, nazwa, opis, konto, rodzajkonta, kategoria, kontrahent.
+  przejdzListe(SqlListySzablonow(rodzaj, klucz), [&w](const auto& tekst, const auto& liczba) {
     WierszSzablonu s;
-    s.id = rs.Pole(QStringLiteral("id")).toLongLong();
-    s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-    s.kategoria = rs.Tekst(QStringLiteral("kategoria"));
-    s.konto = zRodzajem(rs.Tekst(QStringLiteral("konto")),
-                        int(PoleRekordu(rs, QStringLiteral("rodzajkonta"))));
-    s.kontrahent = rs.Tekst(QStringLiteral("kontrahent"));
-    s.opis = rs.Tekst(QStringLiteral("opis"));
+    s.id = liczba(0);
+    s.nazwa = tekst(2);
+    s.opis = tekst(3);
+    s.konto = zRodzajem(tekst(4), int(liczba(5)));
+    s.kategoria = tekst(6);
+    s.kontrahent = tekst(7);
     w.push_back(std::move(s));
-  }
+  });
   return w;
 }
 
 std::vector<WierszSzablonu> ListaSzablonowWewnetrznych(const QString& klucz) {
-  OtworzBaze();
   std::vector<WierszSzablonu> w;
-  for (Rekordy rs = pubBaza().Czytaj(SqlListySzablonowWewnetrznych(klucz)); !rs.Eof();
-       rs.MoveNext()) {
+  // Columns: id, nazwa, opis, zkonta, nakonto, rodzajzkonta, rodzajnakonto.
+  przejdzListe(SqlListySzablonowWewnetrznych(klucz), [&w](const auto& tekst, const auto& liczba) {
     WierszSzablonu s;
-    s.id = rs.Pole(QStringLiteral("id")).toLongLong();
-    s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-    s.zKonta = zRodzajem(rs.Tekst(QStringLiteral("zkonta")),
-                         int(PoleRekordu(rs, QStringLiteral("rodzajzkonta"))));
-    s.naKonto = zRodzajem(rs.Tekst(QStringLiteral("nakonto")),
-                          int(PoleRekordu(rs, QStringLiteral("rodzajnakonto"))));
-    s.opis = rs.Tekst(QStringLiteral("opis"));
+    s.id = liczba(0);
+    s.nazwa = tekst(1);
+    s.opis = tekst(2);
+    s.zKonta = zRodzajem(tekst(3), int(liczba(5)));
+    s.naKonto = zRodzajem(tekst(4), int(liczba(6)));
     w.push_back(std::move(s));
-  }
+  });
   return w;
 }
 
@@ -111,18 +178,14 @@ std::optional<Szablon> CzytajSzablon(qint64 id) {
           "AND (szablony.kategoria = kategorie.identyfikator) Where szablony.Id = ") +
       QString::number(id));
   if (rs.Eof()) return std::nullopt;
-  Szablon s;
-  s.id = id;
-  s.rodzaj = int(PoleRekordu(rs, QStringLiteral("rodzaj")));
-  s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-  s.opis = rs.Tekst(QStringLiteral("opis"));
-  s.konto.id = rs.Pole(QStringLiteral("numerkonta")).toLongLong();
-  s.konto.nazwa = rs.Tekst(QStringLiteral("konto"));
-  s.kategoria.identyfikator = Oczysc(rs.Pole(QStringLiteral("idenkategorii")));
-  s.kategoria.nazwa = rs.Tekst(QStringLiteral("kategoria"));
-  s.kategoria.rodzaj = s.rodzaj;
-  s.kontrahent.id = rs.Pole(QStringLiteral("numerkontrahenta")).toLongLong();
-  s.kontrahent.skrocona = rs.Tekst(QStringLiteral("kontrahent"));
+  KolumnySzablonu k;
+  k.konto = QStringLiteral("numerkonta");
+  k.nazwaKonta = QStringLiteral("konto");
+  k.kategoria = QStringLiteral("idenkategorii");
+  k.nazwaKategorii = QStringLiteral("kategoria");
+  k.kontrahent = QStringLiteral("numerkontrahenta");
+  k.nazwaKontrahenta = QStringLiteral("kontrahent");
+  Szablon s = szablonZ(rs, id, 2, k);
   return s;
 }
 
@@ -137,15 +200,12 @@ std::optional<Szablon> CzytajSzablonWewnetrzny(qint64 id) {
           "kontaprim.id=szablonywewnetrzne.nakonto AND szablonywewnetrzne.id=") +
       QString::number(id));
   if (rs.Eof()) return std::nullopt;
-  Szablon s;
-  s.id = id;
-  s.rodzaj = 3;
-  s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-  s.opis = rs.Tekst(QStringLiteral("opis"));
-  s.konto.id = rs.Pole(QStringLiteral("zkonta")).toLongLong();
-  s.konto.nazwa = rs.Tekst(QStringLiteral("nazwazkonta"));
-  s.naKonto.id = rs.Pole(QStringLiteral("nakonto")).toLongLong();
-  s.naKonto.nazwa = rs.Tekst(QStringLiteral("nazwanakonto"));
+  KolumnySzablonu k;
+  k.konto = QStringLiteral("zkonta");
+  k.nazwaKonta = QStringLiteral("nazwazkonta");
+  k.naKonto = QStringLiteral("nakonto");
+  k.nazwaNaKonta = QStringLiteral("nazwanakonto");
+  Szablon s = szablonZ(rs, id, 3, k);
   return s;
 }
 
@@ -265,17 +325,15 @@ std::optional<Szablon> SzablonDlaWpisu(qint64 id) {
           "szablony.kontrahent = kontrahent.id WHERE szablony.id=") +
       QString::number(id));
   if (rs.Eof()) return std::nullopt;
-  Szablon s;
-  s.id = id;
-  s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-  s.opis = rs.Tekst(QStringLiteral("opis"));
-  s.konto.id = rs.Pole(QStringLiteral("konto")).toLongLong();
-  s.konto.nazwa = rs.Tekst(QStringLiteral("nazwakonta"));
-  s.konto.rodzaj = int(PoleRekordu(rs, QStringLiteral("rodzajkonta")));
-  s.kategoria.identyfikator = Oczysc(rs.Pole(QStringLiteral("kategoria")));
-  s.kategoria.nazwa = rs.Tekst(QStringLiteral("nazwakategorii"));
-  s.kontrahent.id = rs.Pole(QStringLiteral("kontrahent")).toLongLong();
-  s.kontrahent.skrocona = rs.Tekst(QStringLiteral("nazwakontrahenta"));
+  KolumnySzablonu k;
+  k.konto = QStringLiteral("konto");
+  k.nazwaKonta = QStringLiteral("nazwakonta");
+  k.rodzajKonta = QStringLiteral("rodzajkonta");
+  k.kategoria = QStringLiteral("kategoria");
+  k.nazwaKategorii = QStringLiteral("nazwakategorii");
+  k.kontrahent = QStringLiteral("kontrahent");
+  k.nazwaKontrahenta = QStringLiteral("nazwakontrahenta");
+  Szablon s = szablonZ(rs, id, 2, k);
   return s;
 }
 
@@ -291,16 +349,13 @@ std::optional<Szablon> SzablonDlaTransferu(qint64 id) {
           "konta.id=szablonywewnetrzne.zkonta AND szablonywewnetrzne.id=") +
       QString::number(id));
   if (rs.Eof()) return std::nullopt;
-  Szablon s;
-  s.id = id;
-  s.rodzaj = 3;
-  s.nazwa = rs.Tekst(QStringLiteral("nazwa"));
-  s.opis = rs.Tekst(QStringLiteral("opis"));
-  s.konto.id = rs.Pole(QStringLiteral("zkonta")).toLongLong();
-  s.konto.nazwa = rs.Tekst(QStringLiteral("nazwazkonta"));
-  s.konto.rodzaj = int(PoleRekordu(rs, QStringLiteral("rodzajzkonta")));
-  s.naKonto.id = rs.Pole(QStringLiteral("nakonto")).toLongLong();
-  s.naKonto.nazwa = rs.Tekst(QStringLiteral("nazwanakonto"));
-  s.naKonto.rodzaj = int(PoleRekordu(rs, QStringLiteral("rodzajnakonto")));
+  KolumnySzablonu k;
+  k.konto = QStringLiteral("zkonta");
+  k.nazwaKonta = QStringLiteral("nazwazkonta");
+  k.rodzajKonta = QStringLiteral("rodzajzkonta");
+  k.naKonto = QStringLiteral("nakonto");
+  k.nazwaNaKonta = QStringLiteral("nazwanakonto");
+  k.rodzajNaKonta = QStringLiteral("rodzajnakonto");
+  Szablon s = szablonZ(rs, id, 3, k);
   return s;
 }

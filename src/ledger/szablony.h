@@ -20,6 +20,7 @@ struct WierszSzablonu {
   qint64 id = 0;
   QString nazwa, kategoria, konto, kontrahent, opis;
   QString zKonta, naKonto;
+  bool operator==(const WierszSzablonu&) const = default;
 };
 
 // The income (rodzaj 1) or expense (2) templates whose account and category exist, by name; a

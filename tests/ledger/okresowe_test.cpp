@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
+#include <QDateEdit>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -14,6 +15,7 @@
 
 #include "common/magazyn_testowy.h"
 #include "ledger/frmEdycjaOkresowych.h"
+#include "ledger/frmEdycjaTransakcji.h"
 #include "ledger/frmOkresowe.h"
 #include "ledger/transakcje_pomoc.h"
 #include "store/baza.h"
@@ -246,6 +248,88 @@ TEST_F(OkresoweWMagazynie, ChangeDeleteAndScreens) {
   // rule's rows stay.
   EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane"), 3 + 2);
   EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM okresowedni"), 0);
+}
+
+// The user pays a weekly rent early from its planned row and deletes the week after by hand, then
+// raises the rent and later moves it to another weekday: those two weeks stay done each time, the
+// rows still waiting take the new amount and day, the past keeps the old ones, and later weeks
+// come at the new amount.
+TEST_F(OkresoweWMagazynie, ADayRealisedEarlyStaysDoneWhenTheRuleChanges) {
+  RegulaOkresowa r;
+  r.rodzaj = 2;
+  r.konto = bank;
+  r.kategoria = QStringLiteral("a");
+  r.opis = QStringLiteral("Czynsz Łódź");
+  r.kwota = 800;
+  r.czestotliwosc = CoTydzien;
+  r.od = D(2026, 1, 6);  // Tuesdays: 6, 13, 20, 27 January, 3, 10 ... 10 March
+  const qint64 id = Zapisz(r);
+  ASSERT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane"), 10);
+  const qint64 wczesny = m.Licz("SELECT id FROM zaplanowane WHERE data='2026-02-03'");
+  m.host.odpowiedzi = {WynikTak, WynikTak};  // the date, then the cover the editor asks about
+  sesja.pubTryb = 1;
+  sesja.pubTransakcja.id = wczesny;
+  sesja.pubTransakcja.rodzaj = 2;
+  {
+    frmEdycjaTransakcji f;
+    f.show();
+    Kontrolka<QDateEdit>(&f, "dtpData")->setDate(D(2026, 1, 15));
+    Kontrolka<QPushButton>(&f, "cmdRealizuj")->click();
+    ASSERT_EQ(f.result(), QDialog::Accepted);
+  }
+  ASSERT_EQ(m.Licz("SELECT COUNT(*) FROM transakcje WHERE data='2026-01-15' AND wydatek=800"), 1);
+  Sql("DELETE FROM zaplanowane WHERE data='2026-02-10'");
+
+  sesja.pubOkresowaId = id;
+  {
+    frmEdycjaOkresowych f;
+    Kontrolka<QLineEdit>(&f, "txtKwota")->setText(QStringLiteral("950"));
+    f.cmdOk_Click();
+    ASSERT_EQ(f.result(), QDialog::Accepted);
+  }
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data IN ('2026-02-03','2026-02-10')"),
+            0);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=800"), 2);  // 6 and 13 January
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=950"), 6);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM (SELECT data FROM zaplanowane GROUP BY data HAVING "
+                   "COUNT(*)>1)"),
+            0);
+  // Moving the rule to Thursdays re-plans what waits; the two weeks already taken care of stay
+  // done (their Thursdays 5 and 12 February are not planned), the others move.
+  sesja.pubOkresowaId = id;
+  {
+    frmEdycjaOkresowych f;
+    Kontrolka<QDateEdit>(&f, "dtpOdDaty")->setDate(D(2026, 1, 8));
+    f.cmdOk_Click();
+    ASSERT_EQ(f.result(), QDialog::Accepted);
+  }
+  // 22, 29 January, 19, 26 February, 5, 12 March; this week has its Tuesday the 13th already.
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data>='2026-01-15' AND wydatek=950 AND "
+                   "strftime('%w',data)='4'"),
+            6);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data>='2026-01-15'"), 6);
+  // A month on, the next run plans only the new weeks, at the new amount.
+  UstawDzis(D(2026, 2, 15));
+  EXPECT_EQ(GenerujOkresowe().wiersze, 5);  // 19, 26 March, 2, 9, 16 April
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=950"), 11);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE data IN ('2026-02-05','2026-02-12')"),
+            0);
+
+  // A monthly rule of the 10th whose March row the user deleted, moved to the 28th: February
+  // (planned on the 10th) and March stay done, April comes on the 28th.
+  ASSERT_TRUE(UstawHoryzontOkresowych(90));  // to 16 May
+  RegulaOkresowa media = r;
+  media.opis = QStringLiteral("Prąd");
+  media.czestotliwosc = CoMiesiac;
+  media.od = D(2026, 1, 10);
+  media.kwota = 120;
+  media.id = Zapisz(media);
+  Sql("DELETE FROM zaplanowane WHERE data='2026-03-10' AND wydatek=120");
+  media.od = D(2026, 1, 28);
+  Zapisz(media);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=120 AND data<'2026-02-15'"), 2);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=120 AND data>='2026-02-15'"), 1);
+  EXPECT_EQ(m.Licz("SELECT COUNT(*) FROM zaplanowane WHERE wydatek=120 AND data='2026-04-28'"), 1);
 }
 
 // A store made before recurring rules gets their tables and the horizon, and keeps its rows.

@@ -94,6 +94,12 @@ TEST_F(Szablony, ListJoinsAndSearchOverFiveFields) {
   auto* lista = Kontrolka<QTreeWidget>(&f, "lvwSzablonyTransakcji");
   EXPECT_EQ(lista->topLevelItemCount(), 2);
   EXPECT_FALSE(Kontrolka<QPushButton>(&f, "cmdWybierz")->isVisibleTo(&f));
+  // A letter that keeps both rows keeps the line the user stands on; one that narrows moves on.
+  lista->setCurrentItem(lista->topLevelItem(1));
+  Kontrolka<QLineEdit>(&f, "txtKlucz")->setText(QStringLiteral("c"));
+  EXPECT_EQ(lista->currentItem()->text(0), QStringLiteral("Czynsz"));
+  Kontrolka<QLineEdit>(&f, "txtKlucz")->setText(QStringLiteral("ch"));
+  EXPECT_EQ(lista->currentItem()->text(0), QStringLiteral("Chleb"));
   Kontrolka<QLineEdit>(&f, "txtKlucz")->setText(QStringLiteral("m"));
   EXPECT_EQ(lista->topLevelItemCount(), 1);  // Mieszkanie; "Chleb" has no m anywhere
   Kontrolka<QLineEdit>(&f, "txtKlucz")->setText(QStringLiteral("mx"));

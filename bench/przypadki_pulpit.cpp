@@ -138,6 +138,7 @@ QString start() {
   ZamknijBaze();
   if (OtworzBazeIZbadaj() != StanBazy::Otwarta) return QStringLiteral("failed");
   AktualizujBaze();
+  // The check for old small pages (the bench's store was moved before the cases).
   AktualizujStrony();
   WczytajSetup();
   return pulpit();

@@ -185,6 +185,9 @@ int main(int argc, char** argv) {
   UstawFolderDanych(o.folder);
   if (!OtworzBaze() || !AktualizujBaze())
     return blad(QStringLiteral("the store does not open: ") + plik);
+  // A store of the old small pages is moved as the program's start moves it, before the floor's
+  // connection opens the file.
+  if (!AktualizujStrony()) return blad(QStringLiteral("the store could not be moved: ") + plik);
   WczytajSetup();
   QString tekst;
   sqlite3* surowa = OtworzSurowo(plik, false, &tekst);
@@ -197,9 +200,9 @@ int main(int argc, char** argv) {
   ZarejestrujFunkcjeJet(surowa);
   UstawKontekst({o.folder, plik, surowa});
   std::printf(
-      "%lld entries, %lld planned, %lld transfers, %lld accounts, %lld categories, %lld "
-      "counterparties\n\n",
-      static_cast<long long>(ile(surowa, "transakcje")),
+      "pages of %d bytes; %lld entries, %lld planned, %lld transfers, %lld accounts, %lld "
+      "categories, %lld counterparties\n\n",
+      pubBaza().RozmiarStrony(), static_cast<long long>(ile(surowa, "transakcje")),
       static_cast<long long>(ile(surowa, "zaplanowane")),
       static_cast<long long>(ile(surowa, "wewnetrzne")),
       static_cast<long long>(ile(surowa, "konta")),

@@ -12,10 +12,13 @@
 #include "mainwindow/frmMain.h"
 #include "mainwindow/pulpit.h"
 #include "rejestr.h"
+#include "store/baza.h"
 #include "store/dzis.h"
 #include "store/jet.h"
 #include "store/kwota.h"
+#include "store/start.h"
 #include "store/tekst.h"
+#include "surowa.h"
 
 namespace {
 
@@ -128,7 +131,39 @@ QString pulpit() {
   return QStringLiteral("%1 rows").arg(l ? l->topLevelItemCount() : -1);
 }
 
-Przypadki pulpity(65, {PrzypadekBench(QStringLiteral("main window load, shown"), pulpit)
+// The start-up from a closed store to the main window shown: the open with its key derivation,
+// the upgrade checks, the setup row, the window. The floor opens the file raw and steps the
+// window's statements.
+QString start() {
+  ZamknijBaze();
+  if (OtworzBazeIZbadaj() != StanBazy::Otwarta) return QStringLiteral("failed");
+  AktualizujBaze();
+  // The check for old small pages (the bench's store was moved before the cases).
+  AktualizujStrony();
+  WczytajSetup();
+  return pulpit();
+}
+
+// A fresh raw connection, set up as the program's, runs them: both sides start cold.
+QString startSurowo() {
+  const KontekstBench dawny = Kontekst();
+  QString blad;
+  sqlite3* db = OtworzSurowo(dawny.plik, false, &blad);
+  if (!db) return blad;
+  WykonajSurowo(db, QStringLiteral("PRAGMA cache_size=-65536; PRAGMA temp_store=MEMORY;"), nullptr);
+  ZarejestrujFunkcjeJet(db);
+  UstawKontekst({dawny.folder, dawny.plik, db});
+  const QString wynik = pulpitSurowo();
+  UstawKontekst(dawny);
+  sqlite3_close(db);
+  return wynik;
+}
+
+Przypadki pulpity(65, {PrzypadekBench(QStringLiteral("start-up to the main window shown"), start)
+                           .Podloga(startSurowo)
+                           .Przygotuj(przygotuj)
+                           .Limit(500),
+                       PrzypadekBench(QStringLiteral("main window load, shown"), pulpit)
                            .Podloga(pulpitSurowo)
                            .Przygotuj(przygotuj)
                            .Limit(100),

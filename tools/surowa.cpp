@@ -2,9 +2,10 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <cstring>
+#include <QFileInfo>
 
 #include "store/baza.h"
+#include "store/strony.h"
 
 sqlite3* OtworzSurowo(const QString& plik, bool utworz, QString* blad) {
   sqlite3* db = nullptr;
@@ -14,9 +15,10 @@ sqlite3* OtworzSurowo(const QString& plik, bool utworz, QString* blad) {
     sqlite3_close(db);
     return nullptr;
   }
-  sqlite3_key(db, KluczBazy, int(strlen(KluczBazy)));
-  // A wrong key or a file that is not a store shows at the first read.
-  if (!WykonajSurowo(db, QStringLiteral("SELECT count(*) FROM sqlite_master"), blad)) {
+  // A new store gets the page size of new stores; a wrong key or a file that is not a store
+  // shows at the first read.
+  if (KluczujPolaczenie(db, QByteArray(KluczBazy), QFileInfo(plik).size()) != SQLITE_OK) {
+    if (blad) *blad = QString::fromUtf8(sqlite3_errmsg(db));
     sqlite3_close(db);
     return nullptr;
   }

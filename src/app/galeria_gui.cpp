@@ -17,6 +17,7 @@
 #include "ui/frmZakresDat.h"
 #include "ui/frmZmianaDaty.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/panelstanu_gui.h"
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmPrzegladKont.h"
 #include "masterdata/kategorie_galeria_gui.h"
@@ -47,6 +48,15 @@ std::unique_ptr<QWidget> komunikat(const QString& tekst, const QString& tytul, i
 std::unique_ptr<QWidget> oknoGlowne() {
   auto f = std::make_unique<frmMain>();
   f->resize(1100, 720);
+  return f;
+}
+// The main window with the balance chart in another of its five modes; later windows open with
+// the first mode again, as at a start.
+std::unique_ptr<QWidget> oknoZWykresem(int tryb) {
+  auto f = std::make_unique<frmMain>();
+  f->resize(1100, 720);
+  f->Panel()->WybierzWykres(tryb);
+  sesja.pubUstawienia.pubWykres = 0;
   return f;
 }
 // Every menu of the main window opened side by side, submenus included, to read the captions.
@@ -112,6 +122,10 @@ const std::vector<WpisGalerii>& WpisyGalerii() {
       {QStringLiteral("frmStart"), [] { return std::make_unique<frmStart>(); }},
       {QStringLiteral("frmMain"), oknoGlowne},
       {QStringLiteral("frmMain-menu"), menuGlowne},
+      {QStringLiteral("frmMain-wykres1"), [] { return oknoZWykresem(1); }},
+      {QStringLiteral("frmMain-wykres2"), [] { return oknoZWykresem(2); }},
+      {QStringLiteral("frmMain-wykres3"), [] { return oknoZWykresem(3); }},
+      {QStringLiteral("frmMain-wykres4"), [] { return oknoZWykresem(4); }},
       {QStringLiteral("frmMsgBox-information"),
        [] {
          return komunikat(Napis(QStringLiteral("frmHaslo4")), Napis(QStringLiteral("frmHaslo5")),

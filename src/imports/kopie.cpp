@@ -18,6 +18,7 @@
 #include "store/dziennik.h"
 #include "store/dzis.h"
 #include "store/start.h"
+#include "store/strony.h"
 #include "store/zmiany.h"
 
 namespace {
@@ -64,6 +65,8 @@ bool kopiujStrony(sqlite3* zrodlo, const QString& cel, QString* blad,
   }
   const QByteArray k = kluczBazy();
   sqlite3_key(db, k.constData(), int(k.size()));
+  // A copy of encrypted pages must have pages of the store's size.
+  UstawRozmiarStrony(db, RozmiarStrony(zrodlo));
   sqlite3_backup* b = sqlite3_backup_init(db, "main", zrodlo, "main");
   if (!b) {
     *blad = QString::fromUtf8(sqlite3_errmsg(db));

@@ -221,6 +221,8 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
     UsunResztkiPrzekluczenia();
     AktualizujBaze();
   }
+  // A store of an earlier version moves to larger pages once, while this is its only user.
+  AktualizujStrony();
 
   // An empty store: the first-run wizard (when its screens are there), before the setup row is
   // read, so that the colours chosen in it are the ones read.

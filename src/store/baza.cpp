@@ -16,6 +16,7 @@
 
 #include "store/jet.h"
 #include "store/kwota.h"
+#include "store/strony.h"
 #include "store/zmiany.h"
 
 const char* const KluczBazy = "xqz";
@@ -63,11 +64,10 @@ bool Baza::Otworz(const QString& plik, QString* blad, const QByteArray& klucz,
   if ((kodBledu_ = sqlite3_open_v2(plik.toUtf8().constData(), &db_, tryb, nullptr)) != SQLITE_OK)
     return fail(QString::fromUtf8(sqlite3_errmsg(db_)));
   const QByteArray k = klucz.isEmpty() ? QByteArray(KluczBazy) : klucz;
-  sqlite3_key(db_, k.constData(), int(k.size()));
   // A wrong key or a file that is not a store shows at the first read.
-  if ((kodBledu_ = sqlite3_exec(db_, "SELECT count(*) FROM sqlite_master", nullptr, nullptr,
-                                nullptr)) != SQLITE_OK)
+  if ((kodBledu_ = KluczujPolaczenie(db_, k, QFileInfo(plik).size())) != SQLITE_OK)
     return fail(QString::fromUtf8(sqlite3_errmsg(db_)));
+  rozmiarStrony_ = ::RozmiarStrony(db_);
   sqlite3_exec(db_,
                "PRAGMA foreign_keys=OFF; PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL; "
                "PRAGMA cache_size=-65536; PRAGMA temp_store=MEMORY;",
@@ -82,6 +82,7 @@ void Baza::Zamknij() {
   if (db_) sqlite3_close_v2(db_);
   db_ = nullptr;
   glebokoscTransakcji_ = 0;
+  rozmiarStrony_ = 0;
 }
 
 static QVariant wartoscKolumny(sqlite3_stmt* st, int i) {

@@ -67,6 +67,8 @@ class Baza {
   bool Otwarta() const { return db_ != nullptr; }
   const QString& Plik() const { return plik_; }
   int KodBledu() const { return kodBledu_; }
+  // The size of the open file's pages (see store/strony.h); 0 when closed.
+  int RozmiarStrony() const { return rozmiarStrony_; }
 
   // A Jet-dialect read. A failed read gives an empty result carrying the error, and is logged.
   Rekordy Czytaj(const QString& jetSql);
@@ -84,6 +86,7 @@ class Baza {
   QString plik_;
   int kodBledu_ = 0;
   int glebokoscTransakcji_ = 0;
+  int rozmiarStrony_ = 0;
   unsigned zmienioneTabele_ = 0;  // announced at the commit
 };
 

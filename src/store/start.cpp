@@ -6,6 +6,8 @@
 #include "store/baza.h"
 #include "store/dzis.h"
 #include "store/session.h"
+#include "store/strony.h"
+#include "store/zamek.h"
 
 namespace {
 const char* const kolumnyMasek[] = {"pubFormatDaty_ddpmmm",      "pubFormatDaty_ddpmmmpyy",
@@ -88,6 +90,12 @@ bool dodajKolumne(const NowaKolumna& k) {
 }  // namespace
 
 void UstawPrzedAktualizacja(std::function<void()> przed) { przedAktualizacja() = std::move(przed); }
+
+bool AktualizujStrony() {
+  if (!OtworzBaze() || pubBaza().RozmiarStrony() >= RozmiarStronyBazy) return true;
+  if (przedAktualizacja()) przedAktualizacja()();
+  return PrzeniesNaNoweStrony();
+}
 
 bool DodajKolumnyImportu() {
   bool ok = true;

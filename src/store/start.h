@@ -8,6 +8,10 @@
 // Adds the eight mask columns to a two-column wersjabazy (with the masks of the edition in
 // force) and reads the masks into the session. False when the store can't be read.
 bool AktualizujBaze();
+// Moves a store of an earlier version's small pages to the page size of new stores, the copy of
+// UstawPrzedAktualizacja taken first. Only while no other process uses the store (the move
+// replaces the file). False when a move was due and failed: the store is then as it was.
+bool AktualizujStrony();
 // What runs once before the upgrade changes the structure of the store (a copy is taken there);
 // nothing when none is installed.
 void UstawPrzedAktualizacja(std::function<void()> przed);

@@ -4,13 +4,16 @@
 #include <sqlcipher/sqlite3.h>
 #include <unistd.h>
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 #include <QStringList>
 #include <cerrno>
 #include <cstring>
 
 #include "store/baza.h"
+#include "store/strony.h"
 
 namespace {
 
@@ -34,9 +37,10 @@ bool synchronizuj(const QString& sciezka, bool folder) {
   return ok;
 }
 
-// The copy under the new key: the whole store exported in one transaction, setup.haslo set.
-// The key and the password's hash go in as bound values, never as statement text.
-bool zrobKopie(sqlite3* db, const QByteArray& klucz, const QString& hasloWBazie, QString* blad) {
+// The copy under the new key, with pages of the new stores' size: the whole store exported in
+// one transaction, setup.haslo set when a password's hash is given. The key and the hash go in
+// as bound values, never as statement text.
+bool zrobKopie(sqlite3* db, const QByteArray& klucz, const QString* hasloWBazie, QString* blad) {
   // Created here, empty and private: the store makes new files readable by everyone.
   const int fd =
       ::open(nazwa(nowyPlik()).constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
@@ -59,14 +63,19 @@ bool zrobKopie(sqlite3* db, const QByteArray& klucz, const QString& hasloWBazie,
     *blad = QStringLiteral("attach: ") + BezCytatow(QString::fromUtf8(sqlite3_errmsg(db)));
     return false;
   }
+  if (!UstawRozmiarStrony(db, RozmiarStronyBazy, "nowa")) {
+    *blad = QStringLiteral("page size: ") + BezCytatow(QString::fromUtf8(sqlite3_errmsg(db)));
+    sqlite3_exec(db, "DETACH DATABASE nowa", nullptr, nullptr, nullptr);
+    return false;
+  }
   // A deferred transaction writes to the copy alone, so that it commits as one file, with no
   // journal spanning both.
   ok = wykonaj(db, "BEGIN", blad) && wykonaj(db, "SELECT sqlcipher_export('nowa')", blad);
-  if (ok) {
+  if (ok && hasloWBazie) {
     ok = sqlite3_prepare_v2(db, "UPDATE nowa.setup SET haslo=?1", -1, &st, nullptr) == SQLITE_OK;
     if (ok) {
-      const QByteArray h = hasloWBazie.toUtf8();
-      if (hasloWBazie.isNull())
+      const QByteArray h = hasloWBazie->toUtf8();
+      if (hasloWBazie->isNull())
         sqlite3_bind_null(st, 1);
       else
         sqlite3_bind_text(st, 1, h.constData(), int(h.size()), SQLITE_TRANSIENT);
@@ -123,7 +132,7 @@ bool sprawdzKopie(sqlite3* stara, const QByteArray& klucz, QString* blad) {
   sqlite3* db = kopia.Uchwyt();
   sqlite3_stmt* st = nullptr;
   QString wynik;
-  if (sqlite3_prepare_v2(db, "PRAGMA quick_check", -1, &st, nullptr) == SQLITE_OK &&
+  if (sqlite3_prepare_v2(db, "PRAGMA integrity_check", -1, &st, nullptr) == SQLITE_OK &&
       sqlite3_step(st) == SQLITE_ROW)
     wynik = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
   sqlite3_finalize(st);
@@ -152,10 +161,15 @@ void UsunResztkiPrzekluczenia() {
       ZapiszLog(QStringLiteral("cannot remove %1").arg(s));
 }
 
-bool PrzekluczBaze(const QByteArray& nowyKlucz, const QString& hasloWBazie, QString* blad) {
+namespace {
+
+// Makes a checked copy of the open store under klucz (with setup.haslo set when hasloWBazie is
+// given) and puts it in place of the store; see PrzekluczBaze.
+bool przepisz(const QByteArray& nowyKlucz, const QString* hasloWBazie, const QString& co,
+              QString* blad) {
   QString powod;
   auto porazka = [&](const QString& p) {
-    ZapiszLog(QStringLiteral("store key change failed: ") + p);
+    ZapiszLog(QStringLiteral("store %1 failed: %2").arg(co, p));
     if (blad) *blad = p;
     return false;
   };
@@ -163,12 +177,18 @@ bool PrzekluczBaze(const QByteArray& nowyKlucz, const QString& hasloWBazie, QStr
   const QByteArray staryKlucz = KluczSesji();
   const QByteArray klucz = nowyKlucz.isEmpty() ? QByteArray(KluczBazy) : nowyKlucz;
   UsunResztkiPrzekluczenia();
+  // The copy needs about the store's size; a disk short of it is told before anything is written.
+  const QStorageInfo dysk(QFileInfo(PlikBazy()).absolutePath());
+  const qint64 potrzeba = QFileInfo(PlikBazy()).size() + QFileInfo(PlikBazy()).size() / 8 + 65536;
+  if (dysk.isValid() && dysk.bytesAvailable() >= 0 && dysk.bytesAvailable() < potrzeba)
+    return porazka(QStringLiteral("not enough free space for the copy (%1 bytes free, %2 needed)")
+                       .arg(dysk.bytesAvailable())
+                       .arg(potrzeba));
   if (!zrobKopie(pubBaza().Uchwyt(), klucz, hasloWBazie, &powod) ||
       !sprawdzKopie(pubBaza().Uchwyt(), klucz, &powod)) {
     UsunResztkiPrzekluczenia();
     return porazka(powod);
   }
-
   // The swap. The old file keeps a second name until the new one has opened in its place.
   ZamknijBaze();
   const QByteArray plik = nazwa(PlikBazy());
@@ -197,5 +217,28 @@ bool PrzekluczBaze(const QByteArray& nowyKlucz, const QString& hasloWBazie, QStr
   }
   UsunResztkiPrzekluczenia();
   synchronizuj(folder, true);
+  return true;
+}
+
+}  // namespace
+
+bool PrzekluczBaze(const QByteArray& nowyKlucz, const QString& hasloWBazie, QString* blad) {
+  return przepisz(nowyKlucz, &hasloWBazie, QStringLiteral("key change"), blad);
+}
+
+bool PrzeniesNaNoweStrony(QString* blad) {
+  if (!OtworzBaze()) {
+    if (blad) *blad = QStringLiteral("the store is not open");
+    return false;
+  }
+  const int strona = pubBaza().RozmiarStrony();
+  if (strona >= RozmiarStronyBazy) return true;
+  QElapsedTimer czas;
+  czas.start();
+  if (!przepisz(KluczSesji(), nullptr, QStringLiteral("move to larger pages"), blad)) return false;
+  ZapiszLog(QStringLiteral("store moved from pages of %1 to pages of %2 bytes in %3 ms")
+                .arg(strona)
+                .arg(pubBaza().RozmiarStrony())
+                .arg(czas.elapsed()));
   return true;
 }

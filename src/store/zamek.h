@@ -19,3 +19,9 @@ bool PrzekluczBaze(const QByteArray& nowyKlucz, const QString& hasloWBazie,
 // Removes what an interrupted change of key left beside the store (an unfinished copy, the kept
 // old file). Call it only while the store itself opens.
 void UsunResztkiPrzekluczenia();
+
+// Moves a store whose pages are smaller than new stores' (one made by an earlier version) to the
+// new page size, through the same checked copy and swap under the session's key: the password,
+// if any, stays. Nothing to do for a store of the new size. On failure (a full disk, say) the
+// store stays open as it was, and the reason is logged and returned.
+bool PrzeniesNaNoweStrony(QString* blad = nullptr);

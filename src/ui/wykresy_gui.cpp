@@ -28,6 +28,14 @@ QColor kolor(const DaneWykresu& d, int i) {
                                                                    : kolorDomyslny(i);
 }
 
+QFont mniejsza(QFont f) {
+  if (f.pointSizeF() > 0)
+    f.setPointSizeF(f.pointSizeF() * 0.8);
+  else
+    f.setPixelSize(std::max(8, f.pixelSize() * 4 / 5));
+  return f;
+}
+
 void slupki(QChart* chart, const DaneWykresu& d) {
   auto* seria = new QBarSeries;
   QStringList kategorie;
@@ -56,6 +64,8 @@ void slupki(QChart* chart, const DaneWykresu& d) {
   chart->addSeries(seria);
   auto* osX = new QBarCategoryAxis;
   osX->append(kategorie);
+  // Month names of three letters must fit under bars of a small chart, not turn into "...".
+  osX->setLabelsFont(mniejsza(osX->labelsFont()));
   // Short names (months) stand under their bars; longer ones (kinds of account) would be cut to
   // "...", so they are left to the tool tips and the figures beside the chart.
   int najdluzsza = 0;
@@ -82,6 +92,8 @@ void kolowy(QChart* chart, const DaneWykresu& d) {
     s->setBorderColor(Qt::white);
   }
   seria->setPieSize(0.9);
+  // The six names of the kinds of account beside a small pie: a smaller letter cuts fewer.
+  chart->legend()->setFont(mniejsza(chart->legend()->font()));
   chart->addSeries(seria);
 }
 }  // namespace

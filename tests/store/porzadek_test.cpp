@@ -12,6 +12,7 @@
 
 #include "common/magazyn_testowy.h"
 #include "store/baza.h"
+#include "store/strony.h"
 #include "store/jet.h"
 
 // Texts in failure messages as text.
@@ -219,6 +220,7 @@ TEST(Porzadek, StoreStaysReadableByThePlainShell) {
   ASSERT_TRUE(p.waitForStarted());
   p.write(
       QStringLiteral("PRAGMA key='%1';\n"
+                     "PRAGMA cipher_page_size=%2;\n"
                      "SELECT count(*) FROM kontrahent;\n"
                      "SELECT skrocona FROM kontrahent WHERE skrocona='Żabka' ORDER BY skrocona;\n"
                      "SELECT nazwa FROM kategorie ORDER BY nazwa;\n"
@@ -226,6 +228,7 @@ TEST(Porzadek, StoreStaysReadableByThePlainShell) {
                      "UPDATE kategorie SET nazwa='Kraków';\n"
                      "PRAGMA integrity_check;\n")
           .arg(QLatin1String(KluczBazy))
+          .arg(RozmiarStronyBazy)
           .toUtf8());
   p.closeWriteChannel();
   ASSERT_TRUE(p.waitForFinished(20000));

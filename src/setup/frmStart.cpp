@@ -97,3 +97,13 @@ void UkryjStart() {
 }
 
 frmStart* OknoStartowe() { return okno(); }
+
+void NapisStartu(const QString& tekst) {
+  if (!okno()) return;
+  if (auto* l = okno()->findChild<QLabel*>(QStringLiteral("lblNapis(3)"))) {
+    l->setWordWrap(true);
+    l->setText(tekst);
+  }
+  okno()->repaint();
+  QApplication::processEvents();
+}

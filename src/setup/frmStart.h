@@ -18,3 +18,5 @@ void PokazStart();
 // Hides and frees it (nothing happens when none is shown).
 void UkryjStart();
 frmStart* OknoStartowe();
+// Puts a new line of what the program is doing under the splash's titles and paints it at once.
+void NapisStartu(const QString& tekst);

@@ -22,6 +22,7 @@
 #include "store/napis.h"
 #include "store/przypomnienia.h"
 #include "store/session.h"
+#include "store/strony.h"
 #include "store/start.h"
 #include "store/zamek.h"
 #include "ui/nawigacja_gui.h"
@@ -221,7 +222,10 @@ Start Main(const ParametryStartu& p, const SrodowiskoStartu& srodowisko) {
     UsunResztkiPrzekluczenia();
     AktualizujBaze();
   }
-  // A store of an earlier version moves to larger pages once, while this is its only user.
+  // A store of an earlier version moves to larger pages once, while this is its only user; with
+  // years of entries that takes a while, so the splash says what is going on.
+  if (pubBaza().Otwarta() && pubBaza().RozmiarStrony() < RozmiarStronyBazy)
+    NapisStartu(Napis(QStringLiteral("frmStart5")));
   AktualizujStrony();
 
   // An empty store: the first-run wizard (when its screens are there), before the setup row is

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QPixmap>
 #include <QTemporaryDir>
 
 #include "mainwindow/frmMain.h"
@@ -56,6 +58,16 @@ QString motyw() {
   return QStringLiteral("1");
 }
 
+// The theme as the user sees it: applied, then the whole window drawn anew in it (the grab
+// paints every widget of the window, the lists with their stripes included).
+QString motywZRysowaniem() {
+  profil = (profil + 1) % LiczbaProfili;
+  PomalujOkno(okno, ProfilKolorow(profil));
+  const QImage obraz = okno->grab().toImage();
+  // A window drawn into nothing says so.
+  return obraz.isNull() ? QStringLiteral("none") : QStringLiteral("1");
+}
+
 QTemporaryDir* folderPliku = nullptr;
 QString plikPrzypomnien() { return folderPliku->filePath(QStringLiteral("cont.rmd")); }
 void przygotujPlik() {
@@ -97,6 +109,9 @@ static Przypadki p(
                okno->show();
                QApplication::processEvents();
              })
+             .Limit(20),
+         PrzypadekBench(QStringLiteral("theme applied to the main window, repainted"),
+                        motywZRysowaniem)
              .Limit(20),
          PrzypadekBench(QStringLiteral("companion: 1 000-line file read and shown"), towarzysz)
              .Przygotuj(przygotujPlik)

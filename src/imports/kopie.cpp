@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sqlcipher/sqlite3.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -13,6 +14,7 @@
 #include <chrono>
 #include <cstring>
 #include <thread>
+#include <vector>
 
 #include "store/baza.h"
 #include "store/dziennik.h"
@@ -89,6 +91,96 @@ bool kopiujStrony(sqlite3* zrodlo, const QString& cel, QString* blad,
   return kod == SQLITE_DONE && blad->isEmpty();
 }
 
+// Copies the store's file as it lies on disk while the connection holds a read lock, so no
+// writer, in this program or another, can change it meanwhile. The store keeps its journal
+// beside the file (never a write-ahead log), so the locked file alone is the whole store.
+// The connection's own mutex is held throughout: the window's thread, should it touch the store
+// meanwhile, waits for the few tens of milliseconds a file copy takes. False with nothing left
+// behind when anything fails; *mozliwe false when this way cannot be used at all (a write of
+// the program was in progress for too long, or the store has no file), so the caller takes the
+// page-by-page way.
+bool kopiujPlik(sqlite3* db, const QString& cel, QString* blad, bool* mozliwe) {
+  *mozliwe = false;
+  const char* nazwa = sqlite3_db_filename(db, "main");
+  if (!nazwa || !*nazwa) return false;
+  const QByteArray zrodlo(nazwa);
+  sqlite3_mutex* zamek = sqlite3_db_mutex(db);
+  // A change of the program's in progress (a transaction spans several calls) ends first.
+  for (int proby = 0;; ++proby) {
+    sqlite3_mutex_enter(zamek);
+    if (sqlite3_get_autocommit(db)) break;
+    sqlite3_mutex_leave(zamek);
+    if (proby > 3000) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  *mozliwe = true;
+  bool ok = false;
+  // A read transaction: the shared lock stays until the COMMIT.
+  if (sqlite3_exec(db, "BEGIN; SELECT count(*) FROM sqlite_master;", nullptr, nullptr, nullptr) !=
+      SQLITE_OK) {
+    *blad = QString::fromUtf8(sqlite3_errmsg(db));
+  } else {
+    const int we = ::open(zrodlo.constData(), O_RDONLY | O_CLOEXEC);
+    const int wy = ::open(QFile::encodeName(cel).constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC,
+                          0600);
+    if (we < 0 || wy < 0) {
+      *blad = systemowy();
+    } else {
+      std::vector<char> bufor(1 << 20);
+      qint64 razem = 0;
+      ok = true;
+      for (;;) {
+        const ssize_t n = ::read(we, bufor.data(), bufor.size());
+        if (n == 0) break;
+        if (n < 0) {
+          if (errno == EINTR) continue;
+          ok = false;
+          break;
+        }
+        for (ssize_t zapisane = 0; ok && zapisane < n;) {
+          const ssize_t m = ::write(wy, bufor.data() + zapisane, size_t(n - zapisane));
+          if (m < 0 && errno == EINTR) continue;
+          if (m <= 0) ok = false;
+          else zapisane += m;
+        }
+        if (!ok) break;
+        razem += n;
+      }
+      struct stat st {};
+      if (ok && (::fstat(we, &st) != 0 || st.st_size != razem)) {
+        ok = false;
+        errno = EIO;
+      }
+      if (!ok) *blad = systemowy();
+    }
+    if (we >= 0) ::close(we);
+    if (wy >= 0 && ::close(wy) != 0 && ok) {
+      ok = false;
+      *blad = systemowy();
+    }
+    sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+  }
+  sqlite3_mutex_leave(zamek);
+  if (!ok) QFile::remove(cel);
+  return ok;
+}
+
+// A copy just written opens with the store's key and reads its structure: a file cut short or
+// written wrong shows here (the full check runs before a copy is ever offered).
+bool otwieraSie(const QString& plik, QString* blad) {
+  sqlite3* db = nullptr;
+  bool ok = sqlite3_open_v2(plik.toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK;
+  if (ok) {
+    const QByteArray k = kluczBazy();
+    sqlite3_key(db, k.constData(), int(k.size()));
+    ok = sqlite3_exec(db, "SELECT count(*) FROM sqlite_master; PRAGMA schema_version;", nullptr,
+                      nullptr, nullptr) == SQLITE_OK;
+  }
+  if (!ok) *blad = QString::fromUtf8(db ? sqlite3_errmsg(db) : "out of memory");
+  sqlite3_close(db);
+  return ok;
+}
+
 }  // namespace
 
 QString FolderKopii() { return QDir(FolderDanych()).filePath(QStringLiteral("kopie")); }
@@ -162,7 +254,14 @@ bool kopiuj(sqlite3* zrodlo, const QString& folder, PowodKopii powod, const QDat
   const QString tymczasowy = cel + QStringLiteral(".czesc");
   QFile::remove(tymczasowy);
   QString b;
-  if (!kopiujStrony(zrodlo, tymczasowy, &b, krok)) {
+  bool plikiem = false;
+  bool ok = kopiujPlik(zrodlo, tymczasowy, &b, &plikiem) && otwieraSie(tymczasowy, &b);
+  if (!ok && !plikiem) {
+    QFile::remove(tymczasowy);
+    b.clear();
+    ok = kopiujStrony(zrodlo, tymczasowy, &b, krok);
+  }
+  if (!ok) {
     QFile::remove(tymczasowy);
     *blad = QStringLiteral("copy to %1 failed: %2").arg(cel, b);
     return false;

@@ -1,7 +1,5 @@
 #include "setup/kolorowanie_gui.h"
 
-#include <algorithm>
-
 #include <QApplication>
 #include <QColorDialog>
 #include <QEvent>
@@ -76,14 +74,8 @@ void PomalujOkno(QWidget* okno, const QStringList& k, StanOkna stan) {
     if (auto* widok = qobject_cast<QAbstractItemView*>(w)) {
       const auto* drzewo = qobject_cast<QTreeView*>(widok);
       if ((drzewo && !drzewo->rootIsDecorated()) || qobject_cast<QTableView*>(widok)) {
+        // Dark stripes (the black profile) get light text there, so every row stays readable.
         PasujListe(widok, k.value(5), k.value(6));
-        // Dark stripes (the black profile) take light text, so every row stays readable.
-        const QPalette l = widok->palette();
-        if (std::min(l.color(QPalette::Base).lightness(), l.color(QPalette::AlternateBase).lightness()) < 100) {
-          QPalette jasny = l;
-          jasny.setColor(QPalette::Text, Qt::white);
-          widok->setPalette(jasny);
-        }
       }
       continue;
     }

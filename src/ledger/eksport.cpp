@@ -1,5 +1,6 @@
-#include "imports/eksport.h"
+#include "ledger/eksport.h"
 
+#include "ledger/przeglad.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/plik.h"
@@ -74,6 +75,32 @@ std::vector<WierszEksportu> WierszeDoEksportu(const QString& jetSql) {
     r.kontrahent = rs.Tekst(QStringLiteral("nazwakontrahenta")).trimmed();
     r.konto = rs.Tekst(QStringLiteral("nazwakonta")).trimmed();
     w.push_back(r);
+  }
+  return w;
+}
+
+std::vector<WierszEksportu> WierszeZPrzegladu(const DanePrzegladu& dane) {
+  std::vector<WierszEksportu> w;
+  w.reserve(size_t(dane.Ile()));
+  const bool transfery = dane.Rodzaj() == RodzajPrzegladu::Transfery;
+  for (qsizetype i = 0; i < dane.Ile(); ++i) {
+    const WierszPrzegladu& r = dane.Wiersz(i);
+    WierszEksportu e;
+    e.data = r.data ? QDate::fromJulianDay(r.data) : QDate();
+    if (transfery) {
+      e.grosze = -r.kwota1;
+      e.konto = dane.Tekst(r.tekst[0]).trimmed();
+      const QString na = dane.Tekst(r.tekst[1]).trimmed();
+      if (!na.isEmpty()) e.kategoria = QLatin1Char('[') + na + QLatin1Char(']');
+      e.opis = dane.Tekst(r.tekst[2]).trimmed();
+    } else {
+      e.grosze = r.kwota1 - r.kwota2;
+      e.kategoria = dane.Tekst(r.tekst[0]).trimmed();
+      e.konto = dane.Tekst(r.tekst[1]).trimmed();
+      e.kontrahent = dane.Tekst(r.tekst[2]).trimmed();
+      e.opis = dane.Tekst(r.tekst[3]).trimmed();
+    }
+    w.push_back(std::move(e));
   }
   return w;
 }

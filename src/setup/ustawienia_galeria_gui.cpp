@@ -62,6 +62,7 @@ std::unique_ptr<QWidget> wProfilu(const std::function<std::unique_ptr<QWidget>()
   plansza->setProperty("bezKolorow", true);
   plansza->setWindowTitle(w->windowTitle());
   plansza->setPixmap(p);
+  plansza->setFixedSize(p.deviceIndependentSize().toSize());
   return plansza;
 }
 

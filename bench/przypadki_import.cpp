@@ -123,10 +123,11 @@ QString podlogaZapisu() {
   sqlite3* db = Kontekst().surowa;
   sqlite3_exec(db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
   sqlite3_stmt* st = nullptr;
-  sqlite3_prepare_v2(db,
-                     "INSERT INTO transakcje (data, rodzaj, przychod, wydatek, opis, kategoria, konto, "
-                     "kontrahent, idbanku, importu) VALUES (?1, ?2, ?3, ?4, ?5, '', ?6, 0, '', -7)",
-                     -1, &st, nullptr);
+  sqlite3_prepare_v2(
+      db,
+      "INSERT INTO transakcje (data, rodzaj, przychod, wydatek, opis, kategoria, konto, "
+      "kontrahent, idbanku, importu) VALUES (?1, ?2, ?3, ?4, ?5, '', ?6, 0, '', -7)",
+      -1, &st, nullptr);
   int ile = 0;
   for (const PozycjaWyciagu& p : w->pozycje) {
     const QByteArray dzien = p.data.toString(Qt::ISODate).toUtf8();
@@ -158,14 +159,16 @@ QString kopiaPliku() {
 }  // namespace
 
 static Przypadki p(
-    90, {PrzypadekBench(QStringLiteral("import preview, 10 000-line CSV"), [] { return podglad(plikCsv()); })
-             .Przygotuj(przygotuj)
-             .Limit(1000),
-         PrzypadekBench(QStringLiteral("import preview, 10 000-line MT940"),
-                        [] { return podglad(plikMt940()); })
-             .Limit(1000),
-         PrzypadekBench(QStringLiteral("import preview: the raw read alone"), podlogaPodgladu),
-         PrzypadekBench(QStringLiteral("import write 10 000 lines (+ undo)"), zapisIZwrot)
-             .Podloga(podlogaZapisu)
-             .Limit(1000),
-         PrzypadekBench(QStringLiteral("backup of the store"), kopia).Podloga(kopiaPliku).Limit(500)});
+    90,
+    {PrzypadekBench(QStringLiteral("import preview, 10 000-line CSV"),
+                    [] { return podglad(plikCsv()); })
+         .Przygotuj(przygotuj)
+         .Limit(1000),
+     PrzypadekBench(QStringLiteral("import preview, 10 000-line MT940"),
+                    [] { return podglad(plikMt940()); })
+         .Limit(1000),
+     PrzypadekBench(QStringLiteral("import preview: the raw read alone"), podlogaPodgladu),
+     PrzypadekBench(QStringLiteral("import write 10 000 lines (+ undo)"), zapisIZwrot)
+         .Podloga(podlogaZapisu)
+         .Limit(1000),
+     PrzypadekBench(QStringLiteral("backup of the store"), kopia).Podloga(kopiaPliku).Limit(500)});

@@ -98,21 +98,21 @@ QString towarzysz() {
 }  // namespace
 
 static Przypadki p(
-    95, {PrzypadekBench(QStringLiteral("wizard finish, largest set"), koniecKreatora)
-             .Podloga(koniecKreatoraSurowo)
-             .Limit(200),
-         PrzypadekBench(QStringLiteral("theme applied to the main window"), motyw)
-             .Przygotuj([] {
-               okno = new frmMain;
-               okno->resize(1100, 720);
-               okno->setAttribute(Qt::WA_DontShowOnScreen);
-               okno->show();
-               QApplication::processEvents();
-             })
-             .Limit(20),
-         PrzypadekBench(QStringLiteral("theme applied to the main window, repainted"),
-                        motywZRysowaniem)
-             .Limit(20),
-         PrzypadekBench(QStringLiteral("companion: 1 000-line file read and shown"), towarzysz)
-             .Przygotuj(przygotujPlik)
-             .Limit(300)});
+    95,
+    {PrzypadekBench(QStringLiteral("wizard finish, largest set"), koniecKreatora)
+         .Podloga(koniecKreatoraSurowo)
+         .Limit(200),
+     PrzypadekBench(QStringLiteral("theme applied to the main window"), motyw)
+         .Przygotuj([] {
+           okno = new frmMain;
+           okno->resize(1100, 720);
+           okno->setAttribute(Qt::WA_DontShowOnScreen);
+           okno->show();
+           QApplication::processEvents();
+         })
+         .Limit(20),
+     PrzypadekBench(QStringLiteral("theme applied to the main window, repainted"), motywZRysowaniem)
+         .Limit(20),
+     PrzypadekBench(QStringLiteral("companion: 1 000-line file read and shown"), towarzysz)
+         .Przygotuj(przygotujPlik)
+         .Limit(300)});

@@ -223,18 +223,21 @@ void frmImport::wypelnij() {
     QString kto = z.nazwaKontrahenta;
     if (z.jakoTransfer) {
       if (!konta.contains(z.kontoTransferu))
-        konta.insert(z.kontoTransferu,
-                     pubBaza()
-                         .Czytaj(QStringLiteral("SELECT nazwa FROM konta WHERE id=%1").arg(z.kontoTransferu))
-                         .Tekst(QStringLiteral("nazwa")));
-      kto = (z.p.grosze < 0 ? QStringLiteral("→ ") : QStringLiteral("← ")) + konta.value(z.kontoTransferu);
+        konta.insert(
+            z.kontoTransferu,
+            pubBaza()
+                .Czytaj(QStringLiteral("SELECT nazwa FROM konta WHERE id=%1").arg(z.kontoTransferu))
+                .Tekst(QStringLiteral("nazwa")));
+      kto = (z.p.grosze < 0 ? QStringLiteral("→ ") : QStringLiteral("← ")) +
+            konta.value(z.kontoTransferu);
     } else if (z.nowyKontrahent) {
       kto += QLatin1Char(' ') + Napis(QStringLiteral("frmImport21"));
     }
     w->setText(kKontrahent, kto);
     if (!z.jakoTransfer && !z.kategoria.isEmpty()) {
       const QString klucz = QString::number(z.rodzaj()) + QLatin1Char('|') + z.kategoria;
-      if (!kategorie.contains(klucz)) kategorie.insert(klucz, NazwaKategorii(z.kategoria, z.rodzaj()));
+      if (!kategorie.contains(klucz))
+        kategorie.insert(klucz, NazwaKategorii(z.kategoria, z.rodzaj()));
       w->setText(kKategoria, kategorie.value(klucz));
     }
     w->setText(kStan, z.stan == StanPozycji::Duplikat   ? Napis(QStringLiteral("frmImport22"))

@@ -272,11 +272,13 @@ Podglad PrzygotujPodglad(const Wyciag& w, qint64 konto) {
     for (size_t k : strony)
       if (k) znane.insert(kontrahenci[k - 1].id);
     Polecenie p(
-        "SELECT rodzaj, kategoria FROM transakcje WHERE kontrahent=?1 ORDER BY data DESC LIMIT 200");
+        "SELECT rodzaj, kategoria FROM transakcje WHERE kontrahent=?1 ORDER BY data DESC LIMIT "
+        "200");
     for (qint64 id : znane) {
       p.wiaz(1, id);
       while (p.wiersz())
-        poKontrahencie[QString::number(id) + QLatin1Char('|') + QString::number(p.liczba(0))][p.tekst(1)]++;
+        poKontrahencie[QString::number(id) + QLatin1Char('|') + QString::number(p.liczba(0))]
+                      [p.tekst(1)]++;
       p.zeruj();
     }
   }
@@ -392,8 +394,10 @@ WynikImportu ZapiszImport(const Podglad& g) {
         if (utworzeni.contains(k)) {
           kontrahent = utworzeni.value(k);
         } else {
-          nowyK.wiaz(1, krotkaNazwa(z.nazwaKontrahenta)).wiaz(2, z.nazwaKontrahenta)
-              .wiaz(3, RachunekGrupami(z.p.rachunek)).wiaz(4, numer);
+          nowyK.wiaz(1, krotkaNazwa(z.nazwaKontrahenta))
+              .wiaz(2, z.nazwaKontrahenta)
+              .wiaz(3, RachunekGrupami(z.p.rachunek))
+              .wiaz(4, numer);
           if (!nowyK.wykonaj()) return false;
           kontrahent = b.OstatnieId();
           utworzeni.insert(k, kontrahent);

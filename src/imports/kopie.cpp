@@ -121,8 +121,8 @@ bool kopiujPlik(sqlite3* db, const QString& cel, QString* blad, bool* mozliwe) {
     *blad = QString::fromUtf8(sqlite3_errmsg(db));
   } else {
     const int we = ::open(zrodlo.constData(), O_RDONLY | O_CLOEXEC);
-    const int wy = ::open(QFile::encodeName(cel).constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC,
-                          0600);
+    const int wy =
+        ::open(QFile::encodeName(cel).constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
     if (we < 0 || wy < 0) {
       *blad = systemowy();
     } else {
@@ -140,8 +140,10 @@ bool kopiujPlik(sqlite3* db, const QString& cel, QString* blad, bool* mozliwe) {
         for (ssize_t zapisane = 0; ok && zapisane < n;) {
           const ssize_t m = ::write(wy, bufor.data() + zapisane, size_t(n - zapisane));
           if (m < 0 && errno == EINTR) continue;
-          if (m <= 0) ok = false;
-          else zapisane += m;
+          if (m <= 0)
+            ok = false;
+          else
+            zapisane += m;
         }
         if (!ok) break;
         razem += n;
@@ -169,7 +171,8 @@ bool kopiujPlik(sqlite3* db, const QString& cel, QString* blad, bool* mozliwe) {
 // written wrong shows here (the full check runs before a copy is ever offered).
 bool otwieraSie(const QString& plik, QString* blad) {
   sqlite3* db = nullptr;
-  bool ok = sqlite3_open_v2(plik.toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK;
+  bool ok =
+      sqlite3_open_v2(plik.toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK;
   if (ok) {
     const QByteArray k = kluczBazy();
     sqlite3_key(db, k.constData(), int(k.size()));

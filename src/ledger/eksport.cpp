@@ -42,8 +42,12 @@ QByteArray EksportCsv(const std::vector<WierszEksportu>& wiersze) {
   out += "\r\n";
   const QChar znak = sesja.pubJezyk == 2 ? QLatin1Char('.') : QLatin1Char(',');
   for (const WierszEksportu& w : wiersze) {
-    const QString pola[] = {w.data.toString(Qt::ISODate), kwota(w.grosze, znak), w.opis,
-                            w.kategoria, w.kontrahent, w.konto};
+    const QString pola[] = {w.data.toString(Qt::ISODate),
+                            kwota(w.grosze, znak),
+                            w.opis,
+                            w.kategoria,
+                            w.kontrahent,
+                            w.konto};
     for (int i = 0; i < 6; ++i) out += (i ? ";" : "") + komorka(pola[i]);
     out += "\r\n";
   }
@@ -53,11 +57,14 @@ QByteArray EksportCsv(const std::vector<WierszEksportu>& wiersze) {
 QByteArray EksportQif(const std::vector<WierszEksportu>& wiersze) {
   QString t = QStringLiteral("!Type:Bank\r\n");
   for (const WierszEksportu& w : wiersze) {
-    t += QStringLiteral("D") + w.data.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral("\r\n");
+    t += QStringLiteral("D") + w.data.toString(QStringLiteral("dd.MM.yyyy")) +
+         QStringLiteral("\r\n");
     t += QStringLiteral("T") + kwota(w.grosze, QLatin1Char('.')) + QStringLiteral("\r\n");
-    if (!w.kontrahent.isEmpty()) t += QStringLiteral("P") + jednaLinia(w.kontrahent) + QStringLiteral("\r\n");
+    if (!w.kontrahent.isEmpty())
+      t += QStringLiteral("P") + jednaLinia(w.kontrahent) + QStringLiteral("\r\n");
     if (!w.opis.isEmpty()) t += QStringLiteral("M") + jednaLinia(w.opis) + QStringLiteral("\r\n");
-    if (!w.kategoria.isEmpty()) t += QStringLiteral("L") + jednaLinia(w.kategoria) + QStringLiteral("\r\n");
+    if (!w.kategoria.isEmpty())
+      t += QStringLiteral("L") + jednaLinia(w.kategoria) + QStringLiteral("\r\n");
     t += QStringLiteral("^\r\n");
   }
   return t.toUtf8();

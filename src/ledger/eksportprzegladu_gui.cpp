@@ -20,13 +20,13 @@ QString& ostatniFolder() {
 
 bool EksportujPrzeglad(QWidget* rodzic, const DanePrzegladu& dane) {
   const QStringList filtry = {Napis(QStringLiteral("eksport7")), Napis(QStringLiteral("eksport8"))};
-  const QString nazwa = Napis(dane.Rodzaj() == RodzajPrzegladu::Transfery
-                                  ? QStringLiteral("eksport11")
-                                  : QStringLiteral("eksport10")) +
-                        QStringLiteral(".csv");
+  const QString nazwa =
+      Napis(dane.Rodzaj() == RodzajPrzegladu::Transfery ? QStringLiteral("eksport11")
+                                                        : QStringLiteral("eksport10")) +
+      QStringLiteral(".csv");
   const QString folder = ostatniFolder().isEmpty() ? QDir::homePath() : ostatniFolder();
-  const auto wybor =
-      Dialogi::Zapisz(rodzic, Napis(QStringLiteral("eksport9")), QDir(folder).filePath(nazwa), filtry);
+  const auto wybor = Dialogi::Zapisz(rodzic, Napis(QStringLiteral("eksport9")),
+                                     QDir(folder).filePath(nazwa), filtry);
   if (!wybor || wybor->sciezka.trimmed().isEmpty()) return false;
   // The type chosen in the dialog decides when the name has no known extension of its own.
   QString sciezka = wybor->sciezka;

@@ -167,8 +167,8 @@ void PrzegladWpisowGui::zbuduj() {
   cmdAnuluj_ = PrzyciskPrzegladarki(QStringLiteral("cmdAnuluj"), Napis(t_.zamknij), this);
   connect(cmdRaport_, &QPushButton::clicked, this, &PrzegladWpisowGui::cmdRaport_Click);
   connect(cmdAnuluj_, &QPushButton::clicked, this, &PrzegladWpisowGui::reject);
-  auto* cmdEksport = PrzyciskPrzegladarki(QStringLiteral("cmdEksport"),
-                                         Napis(QStringLiteral("eksport13")), this);
+  auto* cmdEksport =
+      PrzyciskPrzegladarki(QStringLiteral("cmdEksport"), Napis(QStringLiteral("eksport13")), this);
   cmdEksport->setToolTip(Napis(QStringLiteral("eksport14")));
   connect(cmdEksport, &QPushButton::clicked, this, [this] { EksportujPrzeglad(this, dane_); });
   sumy->addWidget(cmdEksport);

@@ -126,7 +126,8 @@ std::vector<EkranGaleriiUstawien> GaleriaUstawien() {
       {QStringLiteral("kolory-aktywne-nieaktywne"), paraAktywnaNieaktywna},
   };
   for (int p = 0; p < LiczbaProfili; ++p) {
-    w.push_back({QStringLiteral("kolory-profil%1-frmMain").arg(p), [p] { return wProfilu(glowne, p); }});
+    w.push_back(
+        {QStringLiteral("kolory-profil%1-frmMain").arg(p), [p] { return wProfilu(glowne, p); }});
     w.push_back({QStringLiteral("kolory-profil%1-frmEdycjaTransakcji").arg(p),
                  [p] { return wProfilu(GaleriaNowegoWydatku, p); }});
   }

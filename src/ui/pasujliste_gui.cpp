@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPalette>
-
 #include <algorithm>
 #include <cmath>
 
@@ -79,9 +78,9 @@ void PasujListe(QAbstractItemView* lista, const QString& kolor1, const QString& 
   if (b.isValid()) p.setColor(QPalette::AlternateBase, b);
   // Judged from the system's text colour each time, so a list striped dark and then light again
   // gets its dark text back.
-  const QColor napis = NapisNaPaskach(p.color(QPalette::Active, QPalette::Base),
-                                      p.color(QPalette::Active, QPalette::AlternateBase),
-                                      QApplication::palette().color(QPalette::Active, QPalette::Text));
+  const QColor napis = NapisNaPaskach(
+      p.color(QPalette::Active, QPalette::Base), p.color(QPalette::Active, QPalette::AlternateBase),
+      QApplication::palette().color(QPalette::Active, QPalette::Text));
   for (auto g : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
     p.setColor(g, QPalette::Text, napis);
   lista->setPalette(p);

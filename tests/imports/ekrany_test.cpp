@@ -10,10 +10,10 @@
 #include <QTreeWidget>
 
 #include "common/magazyn_testowy.h"
-#include "ledger/eksport.h"
 #include "imports/frmImport.h"
 #include "imports/frmPrzywrocKopie.h"
 #include "imports/kopie.h"
+#include "ledger/eksport.h"
 #include "masterdata/frmEdycjaKonta.h"
 #include "store/baza.h"
 #include "store/napis.h"
@@ -48,21 +48,24 @@ TEST(EkranyImportu, AccountNumberIsCheckedStoredAsDigitsAndShownGrouped) {
   sesja.pubKonto.id = rs.Pole(QStringLiteral("id")).toLongLong();
   {
     frmEdycjaKonta e;
-    EXPECT_EQ(pole<QLineEdit>(&e, "txtNumer")->text(), QStringLiteral("61 1090 1014 0000 0712 1981 2874"));
+    EXPECT_EQ(pole<QLineEdit>(&e, "txtNumer")->text(),
+              QStringLiteral("61 1090 1014 0000 0712 1981 2874"));
   }
   // The number is saved with the rest of the account or not at all: a store that refuses this
   // number leaves neither the new name nor a new account behind, and the editor stays open.
-  sqlite3_exec(pubBaza().Uchwyt(),
-               "CREATE TRIGGER odmowa_u BEFORE UPDATE ON konta WHEN NEW.numer='11111111111111111111111111' "
-               "BEGIN SELECT RAISE(ABORT, 'refused'); END;"
-               "CREATE TRIGGER odmowa_i BEFORE INSERT ON konta WHEN NEW.numer='11111111111111111111111111' "
-               "BEGIN SELECT RAISE(ABORT, 'refused'); END;",
-               nullptr, nullptr, nullptr);
+  sqlite3_exec(
+      pubBaza().Uchwyt(),
+      "CREATE TRIGGER odmowa_u BEFORE UPDATE ON konta WHEN NEW.numer='11111111111111111111111111' "
+      "BEGIN SELECT RAISE(ABORT, 'refused'); END;"
+      "CREATE TRIGGER odmowa_i BEFORE INSERT ON konta WHEN NEW.numer='11111111111111111111111111' "
+      "BEGIN SELECT RAISE(ABORT, 'refused'); END;",
+      nullptr, nullptr, nullptr);
   m.host.pokazane.clear();
   for (const bool nowe : {false, true}) {
     if (nowe) sesja.pubKonto = KontoRekord{};
     frmEdycjaKonta e;
-    pole<QLineEdit>(&e, "txtNazwa")->setText(nowe ? QStringLiteral("Oszczędności") : QStringLiteral("Główne ŻÓŁĆ"));
+    pole<QLineEdit>(&e, "txtNazwa")
+        ->setText(nowe ? QStringLiteral("Oszczędności") : QStringLiteral("Główne ŻÓŁĆ"));
     pole<QLineEdit>(&e, "txtNumer")->setText(QStringLiteral("11 1111 1111 1111 1111 1111 1111"));
     pole<QPushButton>(&e, "cmdOK")->click();
     EXPECT_NE(e.result(), int(QDialog::Accepted)) << nowe;

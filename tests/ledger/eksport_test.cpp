@@ -48,11 +48,11 @@ struct DialogTestowy {
   std::optional<Dialogi::WybranyPlik> odpowiedz;
   QString proponowana;
   DialogTestowy() {
-    Dialogi::UstawDialogZapisu([this](QWidget*, const QString&, const QString& nazwa,
-                                      const QStringList&) {
-      proponowana = nazwa;
-      return odpowiedz;
-    });
+    Dialogi::UstawDialogZapisu(
+        [this](QWidget*, const QString&, const QString& nazwa, const QStringList&) {
+          proponowana = nazwa;
+          return odpowiedz;
+        });
   }
   ~DialogTestowy() { Dialogi::UstawDialogZapisu({}); }
 };
@@ -94,7 +94,8 @@ TEST(EksportPrzegladu, FilteredSortedListReadsBackInCsvAndQif) {
   for (int filtr : {0, 1}) {
     dialog.odpowiedz = Dialogi::WybranyPlik{d.filePath(QStringLiteral("wpisy banku")), filtr};
     cmd->click();
-    const QString plik = d.filePath(filtr ? QStringLiteral("wpisy banku.qif") : QStringLiteral("wpisy banku.csv"));
+    const QString plik =
+        d.filePath(filtr ? QStringLiteral("wpisy banku.qif") : QStringLiteral("wpisy banku.csv"));
     ASSERT_TRUE(QFile::exists(plik)) << filtr;
     const auto w = wczytaj(plik);
     ASSERT_EQ(w.size(), 2u) << filtr;

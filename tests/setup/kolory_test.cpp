@@ -2,6 +2,8 @@
 // stripes, the standard profile leaving the window native, and the colour screen from the
 // dialog's answer to every open window.
 
+#include "setup/kolory.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -17,7 +19,6 @@
 #include "mainwindow/frmMain.h"
 #include "setup/frmKolory.h"
 #include "setup/kolorowanie_gui.h"
-#include "setup/kolory.h"
 #include "store/session.h"
 #include "store/start.h"
 #include "ui/pasujliste_gui.h"

@@ -68,6 +68,12 @@ QString motywZRysowaniem() {
   return obraz.isNull() ? QStringLiteral("none") : QStringLiteral("1");
 }
 
+// Its floor: the same window drawn anew with no change of colours.
+QString samoRysowanie() {
+  const QImage obraz = okno->grab().toImage();
+  return obraz.isNull() ? QStringLiteral("none") : QStringLiteral("1");
+}
+
 QTemporaryDir* folderPliku = nullptr;
 QString plikPrzypomnien() { return folderPliku->filePath(QStringLiteral("cont.rmd")); }
 void przygotujPlik() {
@@ -112,6 +118,7 @@ static Przypadki p(
          })
          .Limit(20),
      PrzypadekBench(QStringLiteral("theme applied to the main window, repainted"), motywZRysowaniem)
+         .Podloga(samoRysowanie)
          .Limit(20),
      PrzypadekBench(QStringLiteral("companion: 1 000-line file read and shown"), towarzysz)
          .Przygotuj(przygotujPlik)

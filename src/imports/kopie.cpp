@@ -173,6 +173,7 @@ bool kopiujPlik(sqlite3* db, const QString& cel, QString* blad, bool* mozliwe, q
         *blad = systemowy();
       }
     }
+  }
   // The read ends however it went (a BEGIN whose read was refused is still open).
   if (!sqlite3_get_autocommit(db)) sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
   sqlite3_mutex_leave(zamek);

@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QTableView>
 #include <QTreeView>
 
@@ -69,6 +70,16 @@ void PomalujOkno(QWidget* okno, const QStringList& k, StanOkna stan) {
       }
       w->setPalette(e);
       w->setAutoFillBackground(true);
+      continue;
+    }
+    // The menu bar draws its titles in the button-text colour on the window's background:
+    // they take the window's text colours, readable on a dark window as on a light one.
+    if (qobject_cast<QMenuBar*>(w)) {
+      QPalette m = w->palette();
+      m.setColor(QPalette::Active, QPalette::ButtonText, p.color(QPalette::Active, QPalette::WindowText));
+      m.setColor(QPalette::Inactive, QPalette::ButtonText,
+                 p.color(QPalette::Inactive, QPalette::WindowText));
+      w->setPalette(m);
       continue;
     }
     if (auto* widok = qobject_cast<QAbstractItemView*>(w)) {

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
@@ -117,6 +118,13 @@ TEST(Kolory, ListTextReadsOnEveryProfilesStripes) {
       }
     }
     EXPECT_GE(paski, 4) << "profile " << p;
+    // The menu's titles too, on the window's background.
+    auto* menu = f.findChild<QMenuBar*>();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_GE(Kontrast(menu->palette().color(QPalette::Active, QPalette::ButtonText),
+                       f.palette().color(QPalette::Active, QPalette::Window)),
+              4.5)
+        << "profile " << p;
   }
   UstawKoloryUstawien(sesja.pubUstawienia, dawne);
 

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QPixmap>
 #include <QTemporaryDir>
 
 #include "mainwindow/frmMain.h"
@@ -56,6 +58,22 @@ QString motyw() {
   return QStringLiteral("1");
 }
 
+// The theme as the user sees it: applied, then the whole window drawn anew in it (the grab
+// paints every widget of the window, the lists with their stripes included).
+QString motywZRysowaniem() {
+  profil = (profil + 1) % LiczbaProfili;
+  PomalujOkno(okno, ProfilKolorow(profil));
+  const QImage obraz = okno->grab().toImage();
+  // A window drawn into nothing says so.
+  return obraz.isNull() ? QStringLiteral("none") : QStringLiteral("1");
+}
+
+// Its floor: the same window drawn anew with no change of colours.
+QString samoRysowanie() {
+  const QImage obraz = okno->grab().toImage();
+  return obraz.isNull() ? QStringLiteral("none") : QStringLiteral("1");
+}
+
 QTemporaryDir* folderPliku = nullptr;
 QString plikPrzypomnien() { return folderPliku->filePath(QStringLiteral("cont.rmd")); }
 void przygotujPlik() {
@@ -86,18 +104,22 @@ QString towarzysz() {
 }  // namespace
 
 static Przypadki p(
-    95, {PrzypadekBench(QStringLiteral("wizard finish, largest set"), koniecKreatora)
-             .Podloga(koniecKreatoraSurowo)
-             .Limit(200),
-         PrzypadekBench(QStringLiteral("theme applied to the main window"), motyw)
-             .Przygotuj([] {
-               okno = new frmMain;
-               okno->resize(1100, 720);
-               okno->setAttribute(Qt::WA_DontShowOnScreen);
-               okno->show();
-               QApplication::processEvents();
-             })
-             .Limit(20),
-         PrzypadekBench(QStringLiteral("companion: 1 000-line file read and shown"), towarzysz)
-             .Przygotuj(przygotujPlik)
-             .Limit(300)});
+    95,
+    {PrzypadekBench(QStringLiteral("wizard finish, largest set"), koniecKreatora)
+         .Podloga(koniecKreatoraSurowo)
+         .Limit(200),
+     PrzypadekBench(QStringLiteral("theme applied to the main window"), motyw)
+         .Przygotuj([] {
+           okno = new frmMain;
+           okno->resize(1100, 720);
+           okno->setAttribute(Qt::WA_DontShowOnScreen);
+           okno->show();
+           QApplication::processEvents();
+         })
+         .Limit(20),
+     PrzypadekBench(QStringLiteral("theme applied to the main window, repainted"), motywZRysowaniem)
+         .Podloga(samoRysowanie)
+         .Limit(20),
+     PrzypadekBench(QStringLiteral("companion: 1 000-line file read and shown"), towarzysz)
+         .Przygotuj(przygotujPlik)
+         .Limit(300)});

@@ -33,6 +33,7 @@ CREATE INDEX transakcje_data ON transakcje (data, id, konto, przychod, wydatek);
 CREATE INDEX transakcje_konto ON transakcje (konto, data);
 CREATE INDEX transakcje_kategoria ON transakcje (rodzaj, kategoria, data);
 CREATE INDEX transakcje_kontrahent ON transakcje (kontrahent, data);
+CREATE INDEX transakcje_importu ON transakcje (importu) WHERE importu IS NOT NULL;
 
 CREATE TABLE zaplanowane (
   id INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -63,6 +64,7 @@ CREATE TABLE wewnetrzne (
 CREATE INDEX wewnetrzne_data ON wewnetrzne (data, id, zkonta, nakonto, kwota);
 CREATE INDEX wewnetrzne_zkonta ON wewnetrzne (zkonta, data);
 CREATE INDEX wewnetrzne_nakonto ON wewnetrzne (nakonto, data);
+CREATE INDEX wewnetrzne_importu ON wewnetrzne (importu) WHERE importu IS NOT NULL;
 
 -- What every account has taken in and given out over all time, in whole cents, kept by the
 -- triggers below in the same transaction as each write of an entry or a transfer: the balance

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -201,7 +202,14 @@ void frmImport::przelicz() {
 void frmImport::wypelnij() {
   wypelnianie_ = true;
   lvwPodglad_->clear();
-  const QColor szary = palette().color(QPalette::Disabled, QPalette::Text);
+  // Duplicates dimmed towards the list's background, readable on dark stripes as on light ones.
+  const QPalette lp = lvwPodglad_->palette();
+  const QColor t = lp.color(QPalette::Text), b = lp.color(QPalette::Base);
+  const QColor szary((t.red() * 3 + b.red() * 2) / 5, (t.green() * 3 + b.green() * 2) / 5,
+                     (t.blue() * 3 + b.blue() * 2) / 5);
+  // Names of categories and accounts, read once for the whole list.
+  QHash<QString, QString> kategorie;
+  QHash<qint64, QString> konta;
   QList<QTreeWidgetItem*> wiersze;
   for (const PozycjaPodgladu& z : podglad_.pozycje) {
     auto* w = new QTreeWidgetItem;
@@ -214,14 +222,24 @@ void frmImport::wypelnij() {
     w->setToolTip(kOpis, z.p.opis);
     QString kto = z.nazwaKontrahenta;
     if (z.jakoTransfer) {
-      const Rekordy rs = pubBaza().Czytaj(
-          QStringLiteral("SELECT nazwa FROM konta WHERE id=%1").arg(z.kontoTransferu));
-      kto = (z.p.grosze < 0 ? QStringLiteral("→ ") : QStringLiteral("← ")) + rs.Tekst(QStringLiteral("nazwa"));
+      if (!konta.contains(z.kontoTransferu))
+        konta.insert(
+            z.kontoTransferu,
+            pubBaza()
+                .Czytaj(QStringLiteral("SELECT nazwa FROM konta WHERE id=%1").arg(z.kontoTransferu))
+                .Tekst(QStringLiteral("nazwa")));
+      kto = (z.p.grosze < 0 ? QStringLiteral("→ ") : QStringLiteral("← ")) +
+            konta.value(z.kontoTransferu);
     } else if (z.nowyKontrahent) {
       kto += QLatin1Char(' ') + Napis(QStringLiteral("frmImport21"));
     }
     w->setText(kKontrahent, kto);
-    w->setText(kKategoria, z.jakoTransfer ? QString() : NazwaKategorii(z.kategoria, z.rodzaj()));
+    if (!z.jakoTransfer && !z.kategoria.isEmpty()) {
+      const QString klucz = QString::number(z.rodzaj()) + QLatin1Char('|') + z.kategoria;
+      if (!kategorie.contains(klucz))
+        kategorie.insert(klucz, NazwaKategorii(z.kategoria, z.rodzaj()));
+      w->setText(kKategoria, kategorie.value(klucz));
+    }
     w->setText(kStan, z.stan == StanPozycji::Duplikat   ? Napis(QStringLiteral("frmImport22"))
                       : z.stan == StanPozycji::Transfer ? Napis(QStringLiteral("frmImport23"))
                                                         : Napis(QStringLiteral("frmImport24")));

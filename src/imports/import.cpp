@@ -36,6 +36,10 @@ class Polecenie {
     return *this;
   }
   bool wiersz() { return st_ && sqlite3_step(st_) == SQLITE_ROW; }
+  // Ready to run again with new values.
+  void zeruj() {
+    if (st_) sqlite3_reset(st_);
+  }
   bool wykonaj() {
     const bool ok = st_ && sqlite3_step(st_) == SQLITE_DONE;
     if (st_) sqlite3_reset(st_);
@@ -106,10 +110,21 @@ QString najczestsza(const Licznik& l, const QString& k) {
   return najlepsza;
 }
 
+// The short name of a new counterparty, as lists show it: the editor's sixteen characters,
+// cut after a whole word where one fits (the full name is kept beside it).
+QString krotkaNazwa(const QString& nazwa) {
+  constexpr int kDlugosc = 16;
+  if (nazwa.size() <= kDlugosc) return nazwa;
+  const qsizetype spacja = nazwa.lastIndexOf(QLatin1Char(' '), kDlugosc);
+  return (spacja >= 3 ? nazwa.left(spacja) : nazwa.left(kDlugosc)).trimmed();
+}
+
 qint64 numerImportu() {
+  // "IS NOT NULL" lets the store answer from the small index of imported rows.
   Polecenie p(
-      "SELECT max(m) FROM (SELECT max(importu) AS m FROM transakcje UNION ALL SELECT "
-      "max(importu) FROM wewnetrzne UNION ALL SELECT max(importu) FROM kontrahent)");
+      "SELECT max(m) FROM (SELECT max(importu) AS m FROM transakcje WHERE importu IS NOT NULL "
+      "UNION ALL SELECT max(importu) FROM wewnetrzne WHERE importu IS NOT NULL UNION ALL SELECT "
+      "max(importu) FROM kontrahent)");
   return p.wiersz() ? p.liczba(0) : 0;
 }
 }  // namespace
@@ -176,14 +191,6 @@ Podglad PrzygotujPodglad(const Wyciag& w, qint64 konto) {
   }
   Licznik poKontrahencie, poSlowie;
   {
-    Polecenie p(
-        "SELECT kontrahent, rodzaj, kategoria, count(*) FROM transakcje WHERE kontrahent>0 "
-        "GROUP BY kontrahent, rodzaj, kategoria");
-    while (p.wiersz())
-      poKontrahencie[QString::number(p.liczba(0)) + QLatin1Char('|') + QString::number(p.liczba(1))]
-                    [p.tekst(2)] += int(p.liczba(3));
-  }
-  {
     // The newest twenty thousand entries say enough about how descriptions are filed.
     Polecenie p("SELECT opis, rodzaj, kategoria FROM transakcje ORDER BY id DESC LIMIT 20000");
     while (p.wiersz()) {
@@ -227,13 +234,12 @@ Podglad PrzygotujPodglad(const Wyciag& w, qint64 konto) {
     }
   }
 
+  // The other party of each line: by account number, else by name (whole, or a known name it
+  // begins with).
   QHash<QString, size_t> dopasowane;  // name as the bank gives it -> counterparty index + 1
-  g.pozycje.reserve(w.pozycje.size());
+  std::vector<size_t> strony;         // per line: counterparty index + 1, 0 for none
+  strony.reserve(w.pozycje.size());
   for (const PozycjaWyciagu& p : w.pozycje) {
-    PozycjaPodgladu z;
-    z.p = p;
-    const QString dzien = p.data.toString(Qt::ISODate);
-    // The other party: by account number, else by name (whole, or a known name it begins with).
     size_t k = 0;
     if (!p.rachunek.isEmpty()) k = poRachunku.contains(p.rachunek) ? poRachunku.value(p.rachunek) + 1 : 0;
     const QString nazwa = p.kontrahent.trimmed().toLower();
@@ -257,12 +263,41 @@ Podglad PrzygotujPodglad(const Wyciag& w, qint64 konto) {
         dopasowane.insert(nazwa, k);
       }
     }
+    strony.push_back(k);
+  }
+  // What the matched counterparties' own recent entries were filed under: only theirs are read,
+  // each through its index, never the whole table.
+  {
+    QSet<qint64> znane;
+    for (size_t k : strony)
+      if (k) znane.insert(kontrahenci[k - 1].id);
+    Polecenie p(
+        "SELECT rodzaj, kategoria FROM transakcje WHERE kontrahent=?1 ORDER BY data DESC LIMIT "
+        "200");
+    for (qint64 id : znane) {
+      p.wiaz(1, id);
+      while (p.wiersz())
+        poKontrahencie[QString::number(id) + QLatin1Char('|') + QString::number(p.liczba(0))]
+                      [p.tekst(1)]++;
+      p.zeruj();
+    }
+  }
+
+  g.pozycje.reserve(w.pozycje.size());
+  for (size_t i = 0; i < w.pozycje.size(); ++i) {
+    const PozycjaWyciagu& p = w.pozycje[i];
+    PozycjaPodgladu z;
+    z.p = p;
+    const QString dzien = p.data.toString(Qt::ISODate);
+    const size_t k = strony[i];
     if (k) {
       z.kontrahent = kontrahenci[k - 1].id;
       z.nazwaKontrahenta = kontrahenci[k - 1].skrocona;
     } else if (!p.kontrahent.trimmed().isEmpty()) {
       z.nowyKontrahent = true;
-      z.nazwaKontrahenta = p.kontrahent.simplified().left(16).trimmed();
+      // The name as the bank gives it: shown whole in the preview and kept whole as the
+      // counterparty's full name, so two payees that differ only past a short prefix stay two.
+      z.nazwaKontrahenta = p.kontrahent.simplified();
     }
     // A category from the same counterparty's entries, else from similar descriptions.
     const QString rodzaj = QString::number(z.rodzaj());
@@ -359,8 +394,10 @@ WynikImportu ZapiszImport(const Podglad& g) {
         if (utworzeni.contains(k)) {
           kontrahent = utworzeni.value(k);
         } else {
-          nowyK.wiaz(1, z.nazwaKontrahenta).wiaz(2, z.p.kontrahent.simplified().left(30))
-              .wiaz(3, RachunekGrupami(z.p.rachunek)).wiaz(4, numer);
+          nowyK.wiaz(1, krotkaNazwa(z.nazwaKontrahenta))
+              .wiaz(2, z.nazwaKontrahenta)
+              .wiaz(3, RachunekGrupami(z.p.rachunek))
+              .wiaz(4, numer);
           if (!nowyK.wykonaj()) return false;
           kontrahent = b.OstatnieId();
           utworzeni.insert(k, kontrahent);

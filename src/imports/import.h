@@ -16,7 +16,7 @@ struct PozycjaPodgladu {
   StanPozycji stan = StanPozycji::Nowy;
   bool wybrana = true;         // duplicates start unchosen
   qint64 kontrahent = 0;       // matched counterparty; 0: none
-  QString nazwaKontrahenta;    // its short name, or the name of a new one
+  QString nazwaKontrahenta;    // its short name, or the full name of a new one
   bool nowyKontrahent = false; // a counterparty to create under nazwaKontrahenta
   QString kategoria;           // proposed or chosen category (identifier); "" none
   qint64 kontoTransferu = 0;   // the user's other account of a transfer line

@@ -13,6 +13,7 @@
 #include <chrono>
 #include <cstring>
 #include <thread>
+#include <vector>
 
 #include "store/baza.h"
 #include "store/dziennik.h"
@@ -92,6 +93,121 @@ bool kopiujStrony(sqlite3* zrodlo, const QString& cel, QString* blad,
   return kod == SQLITE_DONE && blad->isEmpty();
 }
 
+// A 64-bit sum of bytes, word by word: enough to tell a copy that differs from what was read.
+quint64 suma(const char* dane, size_t ile, quint64 s) {
+  size_t i = 0;
+  for (; i + 8 <= ile; i += 8) {
+    quint64 w;
+    std::memcpy(&w, dane + i, 8);
+    s = (s ^ w) * 0x100000001b3ULL;
+    s ^= s >> 29;
+  }
+  for (; i < ile; ++i) s = (s ^ quint64(uchar(dane[i]))) * 0x100000001b3ULL;
+  return s;
+}
+
+// Copies the store's file as it lies on disk while the connection holds a read lock, so no
+// writer, in this program or another, can change it meanwhile. The store keeps its journal
+// beside the file (never a write-ahead log), so the locked file alone is the whole store.
+// The connection's own mutex is held throughout: the window's thread, should it touch the store
+// meanwhile, waits for the few tens of milliseconds a file copy takes. False with nothing left
+// behind when anything fails; *mozliwe false when this way cannot be used at all (a write of
+// the program was in progress for too long, or the store has no file), so the caller takes the
+// page-by-page way.
+bool kopiujPlik(sqlite3* db, const QString& cel, QString* blad, bool* mozliwe, quint64* sumaKopii,
+                qint64* rozmiar) {
+  *mozliwe = false;
+  sqlite3_mutex* zamek = sqlite3_db_mutex(db);
+  // A change of the program's in progress (a transaction spans several calls) ends first.
+  for (int proby = 0;; ++proby) {
+    sqlite3_mutex_enter(zamek);
+    if (sqlite3_get_autocommit(db)) break;
+    sqlite3_mutex_leave(zamek);
+    if (proby > 3000) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  *mozliwe = true;
+  bool ok = false;
+  // A read transaction: the shared lock stays until the COMMIT.
+  if (sqlite3_exec(db, "BEGIN; SELECT count(*) FROM sqlite_master;", nullptr, nullptr, nullptr) !=
+      SQLITE_OK) {
+    *blad = QString::fromUtf8(sqlite3_errmsg(db));
+  } else {
+    // Read through the store's own open file, never a descriptor of ours: closing one would
+    // drop the locks the process holds on the file.
+    sqlite3_file* plik = nullptr;
+    sqlite3_int64 wielkosc = 0;
+    if (sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, &plik) != SQLITE_OK || !plik ||
+        !plik->pMethods || plik->pMethods->xFileSize(plik, &wielkosc) != SQLITE_OK) {
+      *mozliwe = false;  // the page-by-page way still can
+    } else if (const int wy = ::open(QFile::encodeName(cel).constData(),
+                                     O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
+               wy < 0) {
+      *blad = systemowy();
+    } else {
+      std::vector<char> bufor(1 << 20);
+      quint64 sumaOdczytu = 0xcbf29ce484222325ULL;
+      ok = true;
+      for (sqlite3_int64 od = 0; ok && od < wielkosc;) {
+        const int n = int(std::min<sqlite3_int64>(sqlite3_int64(bufor.size()), wielkosc - od));
+        if (plik->pMethods->xRead(plik, bufor.data(), n, od) != SQLITE_OK) {
+          *blad = QStringLiteral("the store's file can't be read");
+          ok = false;
+          break;
+        }
+        for (ssize_t zapisane = 0; ok && zapisane < n;) {
+          const ssize_t m = ::write(wy, bufor.data() + zapisane, size_t(n - zapisane));
+          if (m < 0 && errno == EINTR) continue;
+          if (m <= 0) {
+            if (m == 0) errno = ENOSPC;
+            *blad = systemowy();
+            ok = false;
+          } else {
+            zapisane += m;
+          }
+        }
+        sumaOdczytu = suma(bufor.data(), size_t(n), sumaOdczytu);
+        od += n;
+      }
+      *sumaKopii = sumaOdczytu;
+      *rozmiar = wielkosc;
+      if (::close(wy) != 0 && ok) {
+        ok = false;
+        *blad = systemowy();
+      }
+    }
+  }
+  // The read ends however it went (a BEGIN whose read was refused is still open).
+  if (!sqlite3_get_autocommit(db)) sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+  sqlite3_mutex_leave(zamek);
+  if (!ok) QFile::remove(cel);
+  return ok;
+}
+
+// The copy as it lies on disk, read back: the same bytes as were read from the locked store.
+bool zgodna(const QString& plik, quint64 oczekiwana, qint64 rozmiar, QString* blad) {
+  const int fd = ::open(QFile::encodeName(plik).constData(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) {
+    *blad = systemowy();
+    return false;
+  }
+  std::vector<char> bufor(1 << 20);
+  quint64 s = 0xcbf29ce484222325ULL;
+  qint64 razem = 0;
+  ssize_t n;
+  while ((n = ::read(fd, bufor.data(), bufor.size())) > 0 || (n < 0 && errno == EINTR))
+    if (n > 0) {
+      s = suma(bufor.data(), size_t(n), s);
+      razem += n;
+    }
+  ::close(fd);
+  if (n < 0 || razem != rozmiar || s != oczekiwana) {
+    *blad = n < 0 ? systemowy() : QStringLiteral("the copy differs from the store");
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 QString FolderKopii() { return QDir(FolderDanych()).filePath(QStringLiteral("kopie")); }
@@ -165,13 +281,33 @@ bool kopiuj(sqlite3* zrodlo, const QString& folder, PowodKopii powod, const QDat
   const QString tymczasowy = cel + QStringLiteral(".czesc");
   QFile::remove(tymczasowy);
   QString b;
-  if (!kopiujStrony(zrodlo, tymczasowy, &b, krok)) {
+  bool plikiem = false;
+  quint64 sumaKopii = 0;
+  qint64 rozmiar = 0;
+  bool ok = kopiujPlik(zrodlo, tymczasowy, &b, &plikiem, &sumaKopii, &rozmiar);
+  if (!ok && !plikiem) {
+    QFile::remove(tymczasowy);
+    b.clear();
+    ok = kopiujStrony(zrodlo, tymczasowy, &b, krok);
+  }
+  if (!ok) {
     QFile::remove(tymczasowy);
     *blad = QStringLiteral("copy to %1 failed: %2").arg(cel, b);
     return false;
   }
-  if (!synchronizuj(tymczasowy, false) || ::rename(QFile::encodeName(tymczasowy).constData(),
-                                                   QFile::encodeName(cel).constData()) != 0) {
+  if (!synchronizuj(tymczasowy, false)) {
+    *blad = QStringLiteral("copy to %1 failed: %2").arg(cel, systemowy());
+    QFile::remove(tymczasowy);
+    return false;
+  }
+  // A file copy is read back once it is on disk: a copy that differs never gets its name.
+  if (plikiem && !zgodna(tymczasowy, sumaKopii, rozmiar, &b)) {
+    *blad = QStringLiteral("copy to %1 failed its check: %2").arg(cel, b);
+    QFile::remove(tymczasowy);
+    return false;
+  }
+  if (::rename(QFile::encodeName(tymczasowy).constData(), QFile::encodeName(cel).constData()) !=
+      0) {
     *blad = QStringLiteral("copy to %1 failed: %2").arg(cel, systemowy());
     QFile::remove(tymczasowy);
     return false;

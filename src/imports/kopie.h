@@ -1,8 +1,10 @@
 #pragma once
-// Rotating copies of the store in <data folder>/kopie/: taken with SQLite's online backup from
-// the open connection (so a copy is consistent even while the program writes), still encrypted
-// with the store's key. A copy is taken before an upgrade of the store's structure, at the first
-// start of a day and at the end of a run; only the newest ones are kept.
+// Rotating copies of the store in <data folder>/kopie/: the store's file copied as it lies while
+// the open connection holds a read lock (so a copy is consistent even while the program writes,
+// and costs a file copy, not a re-encryption of every page), read back and compared, still
+// encrypted with the store's key; SQLite's online backup where a file copy can't be made. A copy is
+// taken before an upgrade of the store's structure, at the first start of a day and at the end of a
+// run; only the newest ones are kept.
 
 #include <QDateTime>
 #include <QString>

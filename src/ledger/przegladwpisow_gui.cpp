@@ -17,6 +17,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "ledger/eksportprzegladu_gui.h"
 #include "store/MsgBoxModule.h"
 #include "store/baza.h"
 #include "store/filtr.h"
@@ -166,6 +167,11 @@ void PrzegladWpisowGui::zbuduj() {
   cmdAnuluj_ = PrzyciskPrzegladarki(QStringLiteral("cmdAnuluj"), Napis(t_.zamknij), this);
   connect(cmdRaport_, &QPushButton::clicked, this, &PrzegladWpisowGui::cmdRaport_Click);
   connect(cmdAnuluj_, &QPushButton::clicked, this, &PrzegladWpisowGui::reject);
+  auto* cmdEksport =
+      PrzyciskPrzegladarki(QStringLiteral("cmdEksport"), Napis(QStringLiteral("eksport13")), this);
+  cmdEksport->setToolTip(Napis(QStringLiteral("eksport14")));
+  connect(cmdEksport, &QPushButton::clicked, this, [this] { EksportujPrzeglad(this, dane_); });
+  sumy->addWidget(cmdEksport);
   sumy->addWidget(cmdRaport_);
   sumy->addWidget(cmdAnuluj_);
 

@@ -253,17 +253,10 @@ void frmEdycjaKonta::cmdOK_Click() {
     txtNumer_->setFocus();
     return;
   }
+  d.numer = numer;
   qint64 nowy = 0;
   if (!ZapiszKontoZPytaniami(d, &nowy)) {
     txtNazwa_->setFocus();
-    return;
-  }
-  const qint64 id = id_ != 0 ? id_ : nowy;
-  if (id && !pubBaza().Wykonaj(QStringLiteral("UPDATE konta SET numer=%1 WHERE id=%2")
-                                   .arg(SqlTekst(numer))
-                                   .arg(id))) {
-    MyMsgbox(Napis(QStringLiteral("frmEdycjaKonta38")), Napis(QStringLiteral("frmEdycjaKonta37")),
-             MsgOK, IkonaOstrzezenie);
     return;
   }
   // The browser behind selects the new account after its refill.

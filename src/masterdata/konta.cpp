@@ -235,17 +235,20 @@ WynikZapisu ZapiszKonto(const DaneKonta& dane, qint64* nowyId) {
   limit = SqlTekst(KropkaNaSeparator(limit));
   const QString rodzaj = SqlTekst(QString::number(dane.rodzaj));
   Baza& b = pubBaza();
+  // The number travels in the same statement as the rest of the row: never one without the other.
+  const QString numer = dane.numer ? SqlTekst(*dane.numer) : QString();
   if (dane.id != 0)
     return b.Wykonaj(QStringLiteral("UPDATE konta SET nazwa=") + nazwa + QStringLiteral(", opis=") +
                      opis + QStringLiteral(", rodzaj=") + rodzaj + QStringLiteral(", bowinien=") +
                      winien + QStringLiteral(",boma=") + ma + QStringLiteral(",limit=") + limit +
+                     (dane.numer ? QStringLiteral(",numer=") + numer : QString()) +
                      QStringLiteral(" WHERE id=") + liczba(dane.id));
   const WynikZapisu w = b.Wykonaj(
-      QStringLiteral(
-          "INSERT INTO konta (datautworzenia,nazwa,opis,rodzaj,bowinien,boma,limit) VALUES (#") +
-      data + QStringLiteral("#,") + nazwa + QLatin1Char(',') + opis + QLatin1Char(',') + rodzaj +
+      QStringLiteral("INSERT INTO konta (datautworzenia,nazwa,opis,rodzaj,bowinien,boma,limit") +
+      (dane.numer ? QStringLiteral(",numer") : QString()) + QStringLiteral(") VALUES (#") + data +
+      QStringLiteral("#,") + nazwa + QLatin1Char(',') + opis + QLatin1Char(',') + rodzaj +
       QLatin1Char(',') + winien + QLatin1Char(',') + ma + QLatin1Char(',') + limit +
-      QLatin1Char(')'));
+      (dane.numer ? QLatin1Char(',') + numer : QString()) + QLatin1Char(')'));
   if (w && nowyId) {
     const Rekordy rs = b.Czytaj(QStringLiteral("SELECT TOP 1 id FROM konta ORDER BY id DESC"));
     *nowyId = rs.Pole(QStringLiteral("id")).toLongLong();

@@ -8,6 +8,7 @@
 
 #include <QDate>
 #include <QString>
+#include <optional>
 
 #include "store/baza.h"
 #include "store/session.h"
@@ -97,6 +98,9 @@ struct DaneKonta {
   QString nazwa, opis;
   int rodzaj = 1;
   QString winien, ma, limit;  // the three amount fields as typed
+  // The bank account number, digits only (empty: none); written with the row when given, so
+  // the account and its number are saved as one change. Unset: an existing number stays.
+  std::optional<QString> numer;
 };
 
 // What a step of saving or deleting has to tell the user before going on.

@@ -1,11 +1,10 @@
 #include "setup/kolorowanie_gui.h"
 
-#include <algorithm>
-
 #include <QApplication>
 #include <QColorDialog>
 #include <QEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QTableView>
 #include <QTreeView>
 
@@ -73,17 +72,21 @@ void PomalujOkno(QWidget* okno, const QStringList& k, StanOkna stan) {
       w->setAutoFillBackground(true);
       continue;
     }
+    // The menu bar draws its titles in the button-text colour on the window's background:
+    // they take the window's text colours, readable on a dark window as on a light one.
+    if (qobject_cast<QMenuBar*>(w)) {
+      QPalette m = w->palette();
+      m.setColor(QPalette::Active, QPalette::ButtonText, p.color(QPalette::Active, QPalette::WindowText));
+      m.setColor(QPalette::Inactive, QPalette::ButtonText,
+                 p.color(QPalette::Inactive, QPalette::WindowText));
+      w->setPalette(m);
+      continue;
+    }
     if (auto* widok = qobject_cast<QAbstractItemView*>(w)) {
       const auto* drzewo = qobject_cast<QTreeView*>(widok);
       if ((drzewo && !drzewo->rootIsDecorated()) || qobject_cast<QTableView*>(widok)) {
+        // Dark stripes (the black profile) get light text there, so every row stays readable.
         PasujListe(widok, k.value(5), k.value(6));
-        // Dark stripes (the black profile) take light text, so every row stays readable.
-        const QPalette l = widok->palette();
-        if (std::min(l.color(QPalette::Base).lightness(), l.color(QPalette::AlternateBase).lightness()) < 100) {
-          QPalette jasny = l;
-          jasny.setColor(QPalette::Text, Qt::white);
-          widok->setPalette(jasny);
-        }
       }
       continue;
     }

@@ -30,14 +30,6 @@
 #include "store/tekst.h"
 
 namespace {
-// A window painted in one profile whatever the session's colours, so the gallery's own
-// painting on show leaves it alone.
-std::unique_ptr<QWidget> wProfilu(std::unique_ptr<QWidget> w, int profil) {
-  w->setProperty("bezKolorow", true);
-  PomalujOkno(w.get(), ProfilKolorow(profil));
-  return w;
-}
-
 std::unique_ptr<QWidget> glowne() {
   auto f = std::make_unique<frmMain>();
   f->resize(1100, 720);
@@ -51,6 +43,27 @@ QPixmap obraz(QWidget* w) {
   const QPixmap p = w->grab();
   w->hide();
   return p;
+}
+
+// A window as it looks in one profile while it has the focus: built and drawn with the profile
+// as the user's colours (lists refilled on show stripe themselves from those), the active set
+// forced, since a window drawn off screen never has the focus. The session's colours come back
+// right after.
+std::unique_ptr<QWidget> wProfilu(const std::function<std::unique_ptr<QWidget>()>& zbuduj,
+                                  int profil) {
+  const QStringList dawne = KoloryUstawien(sesja.pubUstawienia);
+  UstawKoloryUstawien(sesja.pubUstawienia, ProfilKolorow(profil));
+  std::unique_ptr<QWidget> w = zbuduj();
+  w->setProperty("bezKolorow", true);
+  PomalujOkno(w.get(), ProfilKolorow(profil), StanOkna::Aktywne);
+  const QPixmap p = obraz(w.get());
+  UstawKoloryUstawien(sesja.pubUstawienia, dawne);
+  auto plansza = std::make_unique<QLabel>();
+  plansza->setProperty("bezKolorow", true);
+  plansza->setWindowTitle(w->windowTitle());
+  plansza->setPixmap(p);
+  plansza->setFixedSize(p.deviceIndependentSize().toSize());
+  return plansza;
 }
 
 // The same editor twice: as the window with the focus, and as one that lost it.
@@ -113,9 +126,10 @@ std::vector<EkranGaleriiUstawien> GaleriaUstawien() {
       {QStringLiteral("kolory-aktywne-nieaktywne"), paraAktywnaNieaktywna},
   };
   for (int p = 0; p < LiczbaProfili; ++p) {
-    w.push_back({QStringLiteral("kolory-profil%1-frmMain").arg(p), [p] { return wProfilu(glowne(), p); }});
+    w.push_back(
+        {QStringLiteral("kolory-profil%1-frmMain").arg(p), [p] { return wProfilu(glowne, p); }});
     w.push_back({QStringLiteral("kolory-profil%1-frmEdycjaTransakcji").arg(p),
-                 [p] { return wProfilu(GaleriaNowegoWydatku(), p); }});
+                 [p] { return wProfilu(GaleriaNowegoWydatku, p); }});
   }
   return w;
 }

@@ -100,6 +100,13 @@ bool AktualizujStrony() {
 bool DodajKolumnyImportu() {
   bool ok = true;
   for (const NowaKolumna& k : noweKolumny) ok = dodajKolumne(k) && ok;
+  // The rows of imports, found for an undo without reading the whole table.
+  if (ok)
+    sqlite3_exec(pubBaza().Uchwyt(),
+                 "CREATE INDEX IF NOT EXISTS transakcje_importu ON transakcje (importu) WHERE "
+                 "importu IS NOT NULL; CREATE INDEX IF NOT EXISTS wewnetrzne_importu ON wewnetrzne "
+                 "(importu) WHERE importu IS NOT NULL;",
+                 nullptr, nullptr, nullptr);
   return ok;
 }
 

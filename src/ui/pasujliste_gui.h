@@ -14,4 +14,13 @@ class QAbstractItemView;
 QColor KolorUstawienia(const QString& tekst);
 
 // Stripes the list in kolor1 and kolor2 (texts as above); an invalid colour keeps the list's own.
+// The rows' text takes the system's text colour while it reads well on both stripes, else black
+// or white, whichever reads better on both (dark stripes get light text).
 void PasujListe(QAbstractItemView* lista, const QString& kolor1, const QString& kolor2);
+
+// The contrast of two colours as the accessibility guidelines measure it: 1 (equal) to 21
+// (black on white); 4.5 reads well as body text.
+double Kontrast(const QColor& a, const QColor& b);
+// The text colour for rows striped in tlo1 and tlo2: zwykly when it reads well on both, else
+// black or white, whichever has the better contrast with the worse of the two stripes.
+QColor NapisNaPaskach(const QColor& tlo1, const QColor& tlo2, const QColor& zwykly);

@@ -1,6 +1,7 @@
 // The import dialog, the restore dialog and the account number in the account editor, driven
 // by their controls; and the export read back by the import.
 #include <gtest/gtest.h>
+#include <sqlcipher/sqlite3.h>
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -9,10 +10,10 @@
 #include <QTreeWidget>
 
 #include "common/magazyn_testowy.h"
-#include "imports/eksport.h"
 #include "imports/frmImport.h"
 #include "imports/frmPrzywrocKopie.h"
 #include "imports/kopie.h"
+#include "ledger/eksport.h"
 #include "masterdata/frmEdycjaKonta.h"
 #include "store/baza.h"
 #include "store/napis.h"
@@ -45,8 +46,35 @@ TEST(EkranyImportu, AccountNumberIsCheckedStoredAsDigitsAndShownGrouped) {
   const Rekordy rs = pubBaza().Czytaj(QStringLiteral("SELECT id, numer FROM konta"));
   EXPECT_EQ(rs.Tekst(QStringLiteral("numer")), QStringLiteral("61109010140000071219812874"));
   sesja.pubKonto.id = rs.Pole(QStringLiteral("id")).toLongLong();
-  frmEdycjaKonta e;
-  EXPECT_EQ(pole<QLineEdit>(&e, "txtNumer")->text(), QStringLiteral("61 1090 1014 0000 0712 1981 2874"));
+  {
+    frmEdycjaKonta e;
+    EXPECT_EQ(pole<QLineEdit>(&e, "txtNumer")->text(),
+              QStringLiteral("61 1090 1014 0000 0712 1981 2874"));
+  }
+  // The number is saved with the rest of the account or not at all: a store that refuses this
+  // number leaves neither the new name nor a new account behind, and the editor stays open.
+  sqlite3_exec(
+      pubBaza().Uchwyt(),
+      "CREATE TRIGGER odmowa_u BEFORE UPDATE ON konta WHEN NEW.numer='11111111111111111111111111' "
+      "BEGIN SELECT RAISE(ABORT, 'refused'); END;"
+      "CREATE TRIGGER odmowa_i BEFORE INSERT ON konta WHEN NEW.numer='11111111111111111111111111' "
+      "BEGIN SELECT RAISE(ABORT, 'refused'); END;",
+      nullptr, nullptr, nullptr);
+  m.host.pokazane.clear();
+  for (const bool nowe : {false, true}) {
+    if (nowe) sesja.pubKonto = KontoRekord{};
+    frmEdycjaKonta e;
+    pole<QLineEdit>(&e, "txtNazwa")
+        ->setText(nowe ? QStringLiteral("Oszczędności") : QStringLiteral("Główne ŻÓŁĆ"));
+    pole<QLineEdit>(&e, "txtNumer")->setText(QStringLiteral("11 1111 1111 1111 1111 1111 1111"));
+    pole<QPushButton>(&e, "cmdOK")->click();
+    EXPECT_NE(e.result(), int(QDialog::Accepted)) << nowe;
+  }
+  EXPECT_EQ(m.host.pokazane.size(), 2u);
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM konta")), 1);
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM konta WHERE nazwa='Główne' AND "
+                                  "numer='61109010140000071219812874'")),
+            1);
 }
 
 TEST(EkranyImportu, PreviewChosenLinesImportAndUndo) {

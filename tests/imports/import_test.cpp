@@ -126,6 +126,47 @@ TEST(Import, PreviewMatchesDuplicatesTransfersAndWritesWithUndo) {
   EXPECT_EQ(WierszeOstatniegoImportu(), 0);
 }
 
+// Long payee names as banks give them: shown whole, kept whole as the full name with a short
+// name cut after a word, two payees alike in their first words stay two, and the next statement
+// finds them again by the whole name.
+TEST(Import, LongCounterpartyNamesStayWholeAndApart) {
+  MagazynTestowy m;
+  Dom dom;
+  const QString dlugi1 =
+      QStringLiteral("Przedsiębiorstwo Handlowe Łukasz Żółć Spółka Jawna Kraków");
+  const QString dlugi2 =
+      QStringLiteral("Przedsiębiorstwo Handlowe Łukasz Żółć Spółka Jawna Gdańsk");
+  const QString bezSpacji = QStringLiteral("Zakładprzetwórstwamięsnego");
+  Wyciag w;
+  int i = 0;
+  for (const QString& kto : {dlugi1, dlugi2, bezSpacji, QStringLiteral("  ") + dlugi1.toUpper()})
+    w.pozycje.push_back(
+        {0, QDate(2026, 11, 1).addDays(i++), -1000 - i, QStringLiteral("Faktura"), kto, {}, {}});
+  const Podglad g = PrzygotujPodglad(w, dom.glowne);
+  ASSERT_EQ(g.pozycje.size(), 4u);
+  EXPECT_EQ(g.pozycje[0].nazwaKontrahenta, dlugi1);
+  EXPECT_EQ(g.pozycje[1].nazwaKontrahenta, dlugi2);
+  EXPECT_TRUE(g.pozycje[0].nowyKontrahent && g.pozycje[1].nowyKontrahent);
+  const WynikImportu r = ZapiszImport(g);
+  ASSERT_TRUE(r.ok) << r.blad.toStdString();
+  EXPECT_EQ(r.kontrahenci, 3);  // the upper-case line is the first payee again
+  EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM kontrahent WHERE nazwa='%1'").arg(dlugi1)),
+            1);
+  EXPECT_EQ(
+      m.Licz(QStringLiteral("SELECT COUNT(*) FROM kontrahent WHERE skrocona='Przedsiębiorstwo'")),
+      2);
+  EXPECT_EQ(
+      m.Licz(QStringLiteral("SELECT COUNT(*) FROM kontrahent WHERE skrocona='Zakładprzetwórst'")),
+      1);
+  EXPECT_EQ(m.Licz(QStringLiteral(
+                "SELECT COUNT(DISTINCT kontrahent) FROM transakcje WHERE opis='Faktura'")),
+            3);
+  const Podglad g2 = PrzygotujPodglad(w, dom.glowne);
+  for (const PozycjaPodgladu& z : g2.pozycje)
+    EXPECT_FALSE(z.nowyKontrahent) << z.p.kontrahent.toStdString();
+  EXPECT_NE(g2.pozycje[0].kontrahent, g2.pozycje[1].kontrahent);
+}
+
 TEST(Import, CommandLinePreviewWriteAndBadInput) {
   MagazynTestowy m;
   Dom dom;

@@ -2,22 +2,26 @@
 // stripes, the standard profile leaving the window native, and the colour screen from the
 // dialog's answer to every open window.
 
+#include "setup/kolory.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "common/magazyn_testowy.h"
+#include "mainwindow/frmMain.h"
 #include "setup/frmKolory.h"
 #include "setup/kolorowanie_gui.h"
-#include "setup/kolory.h"
 #include "store/session.h"
+#include "store/start.h"
 #include "ui/pasujliste_gui.h"
 
 namespace {
@@ -81,6 +85,56 @@ TEST(Kolory, BothFormsFocusStatesHeadingsAndStripes) {
     for (auto r : {QPalette::Window, QPalette::WindowText, QPalette::Button})
       EXPECT_EQ(kolor(&o.okno, g, r), QApplication::palette().color(QPalette::Active, r));
   EXPECT_EQ(kolor(o.lista, QPalette::Active, QPalette::Base), QColor(Qt::white));
+}
+
+// Every profile's stripes carry readable text, in the main window's own lists as in any striped
+// list (the black profile's dark stripes once had dark text); a list striped dark and then light
+// again gets its dark text back.
+TEST(Kolory, ListTextReadsOnEveryProfilesStripes) {
+  MagazynTestowy m(1);
+  WczytajSetup();
+  const QStringList dawne = KoloryUstawien(sesja.pubUstawienia);
+  for (int p = 0; p < LiczbaProfili; ++p) {
+    UstawKoloryUstawien(sesja.pubUstawienia, ProfilKolorow(p));
+    frmMain f;
+    f.setAttribute(Qt::WA_DontShowOnScreen);
+    f.show();
+    KolorujFormularz(&f);
+    f.OdswiezMain();
+    f.OdswiezMainZaplanowane();
+    f.OdswiezMainWewnetrzne();
+    f.OdswiezMainWewnetrzneZaplanowane();
+    int paski = 0;
+    for (QAbstractItemView* l : f.findChildren<QAbstractItemView*>()) {
+      if (!l->alternatingRowColors()) continue;
+      ++paski;
+      for (auto g : {QPalette::Active, QPalette::Inactive}) {
+        const QPalette k = l->palette();
+        // 4.0: the most the black profile's lighter stripe allows any text colour.
+        EXPECT_GE(Kontrast(k.color(g, QPalette::Text), k.color(g, QPalette::Base)), 4.0)
+            << "profile " << p << " " << l->objectName().toStdString();
+        EXPECT_GE(Kontrast(k.color(g, QPalette::Text), k.color(g, QPalette::AlternateBase)), 4.0)
+            << "profile " << p << " " << l->objectName().toStdString();
+      }
+    }
+    EXPECT_GE(paski, 4) << "profile " << p;
+    // The menu's titles too, on the window's background.
+    auto* menu = f.findChild<QMenuBar*>();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_GE(Kontrast(menu->palette().color(QPalette::Active, QPalette::ButtonText),
+                       f.palette().color(QPalette::Active, QPalette::Window)),
+              4.5)
+        << "profile " << p;
+  }
+  UstawKoloryUstawien(sesja.pubUstawienia, dawne);
+
+  Okno o;
+  PomalujOkno(&o.okno, ProfilKolorow(5));
+  EXPECT_EQ(kolor(o.lista, QPalette::Active, QPalette::Text), QColor(Qt::white));
+  PomalujOkno(&o.okno, ProfilKolorow(1));
+  EXPECT_EQ(kolor(o.lista, QPalette::Active, QPalette::Text),
+            QApplication::palette().color(QPalette::Active, QPalette::Text));
+  EXPECT_NEAR(Kontrast(Qt::black, Qt::white), 21.0, 0.01);
 }
 
 // The colour screen: a profile loads all nine, the dialog's black is refused, another colour goes

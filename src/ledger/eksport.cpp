@@ -1,5 +1,6 @@
-#include "imports/eksport.h"
+#include "ledger/eksport.h"
 
+#include "ledger/przeglad.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/plik.h"
@@ -41,8 +42,12 @@ QByteArray EksportCsv(const std::vector<WierszEksportu>& wiersze) {
   out += "\r\n";
   const QChar znak = sesja.pubJezyk == 2 ? QLatin1Char('.') : QLatin1Char(',');
   for (const WierszEksportu& w : wiersze) {
-    const QString pola[] = {w.data.toString(Qt::ISODate), kwota(w.grosze, znak), w.opis,
-                            w.kategoria, w.kontrahent, w.konto};
+    const QString pola[] = {w.data.toString(Qt::ISODate),
+                            kwota(w.grosze, znak),
+                            w.opis,
+                            w.kategoria,
+                            w.kontrahent,
+                            w.konto};
     for (int i = 0; i < 6; ++i) out += (i ? ";" : "") + komorka(pola[i]);
     out += "\r\n";
   }
@@ -52,11 +57,14 @@ QByteArray EksportCsv(const std::vector<WierszEksportu>& wiersze) {
 QByteArray EksportQif(const std::vector<WierszEksportu>& wiersze) {
   QString t = QStringLiteral("!Type:Bank\r\n");
   for (const WierszEksportu& w : wiersze) {
-    t += QStringLiteral("D") + w.data.toString(QStringLiteral("dd.MM.yyyy")) + QStringLiteral("\r\n");
+    t += QStringLiteral("D") + w.data.toString(QStringLiteral("dd.MM.yyyy")) +
+         QStringLiteral("\r\n");
     t += QStringLiteral("T") + kwota(w.grosze, QLatin1Char('.')) + QStringLiteral("\r\n");
-    if (!w.kontrahent.isEmpty()) t += QStringLiteral("P") + jednaLinia(w.kontrahent) + QStringLiteral("\r\n");
+    if (!w.kontrahent.isEmpty())
+      t += QStringLiteral("P") + jednaLinia(w.kontrahent) + QStringLiteral("\r\n");
     if (!w.opis.isEmpty()) t += QStringLiteral("M") + jednaLinia(w.opis) + QStringLiteral("\r\n");
-    if (!w.kategoria.isEmpty()) t += QStringLiteral("L") + jednaLinia(w.kategoria) + QStringLiteral("\r\n");
+    if (!w.kategoria.isEmpty())
+      t += QStringLiteral("L") + jednaLinia(w.kategoria) + QStringLiteral("\r\n");
     t += QStringLiteral("^\r\n");
   }
   return t.toUtf8();
@@ -74,6 +82,32 @@ std::vector<WierszEksportu> WierszeDoEksportu(const QString& jetSql) {
     r.kontrahent = rs.Tekst(QStringLiteral("nazwakontrahenta")).trimmed();
     r.konto = rs.Tekst(QStringLiteral("nazwakonta")).trimmed();
     w.push_back(r);
+  }
+  return w;
+}
+
+std::vector<WierszEksportu> WierszeZPrzegladu(const DanePrzegladu& dane) {
+  std::vector<WierszEksportu> w;
+  w.reserve(size_t(dane.Ile()));
+  const bool transfery = dane.Rodzaj() == RodzajPrzegladu::Transfery;
+  for (qsizetype i = 0; i < dane.Ile(); ++i) {
+    const WierszPrzegladu& r = dane.Wiersz(i);
+    WierszEksportu e;
+    e.data = r.data ? QDate::fromJulianDay(r.data) : QDate();
+    if (transfery) {
+      e.grosze = -r.kwota1;
+      e.konto = dane.Tekst(r.tekst[0]).trimmed();
+      const QString na = dane.Tekst(r.tekst[1]).trimmed();
+      if (!na.isEmpty()) e.kategoria = QLatin1Char('[') + na + QLatin1Char(']');
+      e.opis = dane.Tekst(r.tekst[2]).trimmed();
+    } else {
+      e.grosze = r.kwota1 - r.kwota2;
+      e.kategoria = dane.Tekst(r.tekst[0]).trimmed();
+      e.konto = dane.Tekst(r.tekst[1]).trimmed();
+      e.kontrahent = dane.Tekst(r.tekst[2]).trimmed();
+      e.opis = dane.Tekst(r.tekst[3]).trimmed();
+    }
+    w.push_back(std::move(e));
   }
   return w;
 }

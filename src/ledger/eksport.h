@@ -9,6 +9,8 @@
 #include <QString>
 #include <vector>
 
+class DanePrzegladu;
+
 struct WierszEksportu {
   QDate data;
   qint64 grosze = 0;  // positive: income or money in; negative: expense or money out
@@ -22,6 +24,11 @@ QByteArray EksportQif(const std::vector<WierszEksportu>& wiersze);
 // The rows of an entry browser's read (fields data, przychod, wydatek, opis and, when present,
 // nazwakategorii, nazwakontrahenta, nazwakonta), in its order.
 std::vector<WierszEksportu> WierszeDoEksportu(const QString& jetSql);
+// The rows a browser shows, in the order it shows them. Entries: income positive, expense
+// negative. Transfers: the amount leaves the "from" account (negative, that account in the
+// account column) and the category column names the other account in brackets, as QIF marks a
+// transfer.
+std::vector<WierszEksportu> WierszeZPrzegladu(const DanePrzegladu& dane);
 // Writes the rows to a file through the checked writer; QIF when the name ends in ".qif".
 bool ZapiszEksport(const QString& sciezka, const std::vector<WierszEksportu>& wiersze,
                    QString* blad = nullptr);

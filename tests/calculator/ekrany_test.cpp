@@ -22,26 +22,11 @@ namespace {
 int KodKlawisza(QChar c) {
   if (c.isDigit()) return Qt::Key_0 + (c.unicode() - u'0');
   if (c.isLetter()) return Qt::Key_A + (c.toUpper().unicode() - u'A');
-  switch (c.unicode()) {
-    case u',':
-      return Qt::Key_Comma;
-    case u'.':
-      return Qt::Key_Period;
-    case u'+':
-      return Qt::Key_Plus;
-    case u'-':
-      return Qt::Key_Minus;
-    case u'*':
-      return Qt::Key_Asterisk;
-    case u'/':
-      return Qt::Key_Slash;
-    case u'%':
-      return Qt::Key_Percent;
-    case u'=':
-      return Qt::Key_Equal;
-    default:
-      return Qt::Key_Space;
-  }
+  static const QString znaki = QStringLiteral(",.+-*/%=");
+  static const int kody[] = {Qt::Key_Comma,    Qt::Key_Period, Qt::Key_Plus,    Qt::Key_Minus,
+                             Qt::Key_Asterisk, Qt::Key_Slash,  Qt::Key_Percent, Qt::Key_Equal};
+  const qsizetype i = znaki.indexOf(c);
+  return i < 0 ? int(Qt::Key_Space) : kody[i];
 }
 
 void Klawisz(QWidget* w, int kod, const QString& tekst = {},

@@ -9,6 +9,7 @@
 
 #include "common/magazyn_testowy.h"
 #include "common/widocznosc.h"
+#include "ekrany_pomoc.h"
 #include "konta_pomoc.h"
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmLimitDlaKategorii.h"
@@ -17,13 +18,6 @@
 #include "store/tekst.h"
 
 namespace {
-
-template <class T = QWidget>
-T* Pole(const QObject* o, const char* nazwa) {
-  T* w = o->findChild<T*>(QLatin1String(nazwa));
-  EXPECT_NE(w, nullptr) << nazwa;
-  return w;
-}
 
 // A stored amount to the cent, as SQLite itself prints it.
 QString Grosze(const QString& sql) { return pubBaza().Czytaj(sql).Pole(0).toString(); }
@@ -49,12 +43,12 @@ TEST(DlugieKwoty, AccountEditorKeepsOpeningBalancesAndLimitWhole) {
       e.show();
       for (const auto& [nazwa, kwota] :
            {std::pair{"txtWinien", winien}, std::pair{"txtMa", ma}, std::pair{"txtLimit", limit}}) {
-        auto* pole = Pole<QLineEdit>(&e, nazwa);
+        auto* pole = Kontrolka<QLineEdit>(&e, nazwa);
         EXPECT_EQ(pole->text(), FormatKwotyEdycja(kwota)) << nazwa << " " << separator;
         EXPECT_TRUE(widocznosc::CalyWidoczny(pole)) << nazwa << " " << separator;
       }
-      Pole<QLineEdit>(&e, "txtOpis")->setText(QStringLiteral("tylko opis"));
-      Pole<QPushButton>(&e, "cmdOK")->click();
+      Kontrolka<QLineEdit>(&e, "txtOpis")->setText(QStringLiteral("tylko opis"));
+      Kontrolka<QPushButton>(&e, "cmdOK")->click();
       ASSERT_EQ(e.result(), int(QDialog::Accepted)) << separator;
       EXPECT_EQ(Grosze(QStringLiteral("SELECT printf('%.2f/%.2f/%.2f/', bowinien, boma, limit)||"
                                       "opis FROM konta WHERE id=%1")
@@ -83,10 +77,10 @@ TEST(DlugieKwoty, CategoryLimitDialogKeepsTheLimitWhole) {
       sesja.pubKategoria = {QStringLiteral("a"), QStringLiteral("Dom"), QStringLiteral("-"), 2};
       frmLimitDlaKategorii d;
       d.show();
-      auto* pole = Pole<QLineEdit>(&d, "txtLimit");
+      auto* pole = Kontrolka<QLineEdit>(&d, "txtLimit");
       EXPECT_EQ(pole->text(), FormatKwotyEdycja(kKwoty[i])) << separator;
       EXPECT_TRUE(widocznosc::CalyWidoczny(pole)) << kTeksty[i];
-      Pole<QPushButton>(&d, "cmdOK")->click();
+      Kontrolka<QPushButton>(&d, "cmdOK")->click();
       ASSERT_EQ(d.result(), int(QDialog::Accepted));
       EXPECT_EQ(Grosze(QStringLiteral(
                     "SELECT printf('%.2f', limit) FROM kategorie WHERE identyfikator='a'")),

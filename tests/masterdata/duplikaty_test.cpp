@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "common/magazyn_testowy.h"
+#include "ekrany_pomoc.h"
 #include "masterdata/frmEdycjaKategorii.h"
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmEdycjaKontrahenta.h"
@@ -18,13 +19,6 @@
 #include "store/session.h"
 
 namespace {
-
-template <class T = QWidget>
-T* Kontrolka(const QObject* o, const char* nazwa) {
-  T* w = o->findChild<T*>(QLatin1String(nazwa));
-  EXPECT_NE(w, nullptr) << nazwa;
-  return w;
-}
 
 struct Edytor {
   const char* nazwa;         // the editor's form name

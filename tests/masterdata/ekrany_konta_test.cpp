@@ -19,6 +19,7 @@
 #include <functional>
 
 #include "common/magazyn_testowy.h"
+#include "ekrany_pomoc.h"
 #include "konta_pomoc.h"
 #include "masterdata/frmEdycjaKonta.h"
 #include "masterdata/frmPrzegladKont.h"
@@ -44,13 +45,6 @@ void Pisz(QLineEdit* pole, const QString& tekst) {
   for (const QChar c : tekst) pole->insert(QString(c));
 }
 
-template <class T = QWidget>
-T* W(const QObject* o, const QString& nazwa) {
-  T* w = o->findChild<T*>(nazwa);
-  EXPECT_NE(w, nullptr) << nazwa.toStdString();
-  return w;
-}
-
 QTreeWidgetItem* Wezel(QTreeWidget* t, const QString& klucz) {
   for (QTreeWidgetItemIterator it(t); *it; ++it)
     if ((*it)->data(0, Qt::UserRole).toString() == klucz) return *it;
@@ -60,16 +54,6 @@ QTreeWidgetItem* Wezel(QTreeWidget* t, const QString& klucz) {
 
 QString Klucz(QTreeWidget* t) {
   return t->currentItem() ? t->currentItem()->data(0, Qt::UserRole).toString() : QString();
-}
-
-// Runs akcja on the modal dialog that the next step opens, then makes sure it closes.
-void NaModalnym(std::function<void(QWidget*)> akcja) {
-  QTimer::singleShot(0, [akcja] {
-    QWidget* d = QApplication::activeModalWidget();
-    ASSERT_NE(d, nullptr);
-    akcja(d);
-    if (d->isVisible()) d->close();
-  });
 }
 
 struct Konta {
@@ -103,7 +87,7 @@ TEST(PrzegladKont, TreeBalancePanelAndDetails) {
   sesja.pubFiltrCzasowy.rodzaj = 0;
   frmPrzegladKont f;
   f.show();
-  auto* tvw = W<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
+  auto* tvw = Kontrolka<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
   ASSERT_EQ(tvw->topLevelItemCount(), 1);
   QTreeWidgetItem* root = tvw->topLevelItem(0);
   EXPECT_EQ(root->text(0), Napis(QStringLiteral("frmPrzegladKont80")));
@@ -115,69 +99,69 @@ TEST(PrzegladKont, TreeBalancePanelAndDetails) {
   // The account of pubKonto is selected: within its overdraft.
   EXPECT_EQ(Klucz(tvw), QStringLiteral("q%1").arg(k.mbank));
   EXPECT_EQ(sesja.pubWezelKont, QStringLiteral("q"));
-  EXPECT_FALSE(W(&f, QStringLiteral("fraLimityMain"))->isHidden());
-  EXPECT_TRUE(W(&f, QStringLiteral("imgLimit(0)"))->isHidden());
-  EXPECT_FALSE(W(&f, QStringLiteral("imgLimit(1)"))->isHidden());
-  EXPECT_TRUE(W(&f, QStringLiteral("imgLimit(2)"))->isHidden());
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblMainSaldo"))->text(),
+  EXPECT_FALSE(Kontrolka(&f, QStringLiteral("fraLimityMain"))->isHidden());
+  EXPECT_TRUE(Kontrolka(&f, QStringLiteral("imgLimit(0)"))->isHidden());
+  EXPECT_FALSE(Kontrolka(&f, QStringLiteral("imgLimit(1)"))->isHidden());
+  EXPECT_TRUE(Kontrolka(&f, QStringLiteral("imgLimit(2)"))->isHidden());
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblMainSaldo"))->text(),
             Napis(QStringLiteral("frmPrzegladKont60")) + QLatin1Char(' ') + FormatKwoty(-10));
   EXPECT_EQ(sesja.pubKonto.saldo, -10.0);
 
   // An account with limit 0 shows the panel too; a balance in order shows imgLimit(0). Every
   // cent of a large balance shows.
   tvw->setCurrentItem(Wezel(tvw, QStringLiteral("q%1").arg(k.ing)));
-  EXPECT_FALSE(W(&f, QStringLiteral("fraLimityMain"))->isHidden());
-  EXPECT_FALSE(W(&f, QStringLiteral("imgLimit(0)"))->isHidden());
-  EXPECT_TRUE(W<QLabel>(&f, QStringLiteral("lblMainLimit"))->text().endsWith(FormatKwoty(0)));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblBZ"))->text(), FormatKwoty(1234467.88));
+  EXPECT_FALSE(Kontrolka(&f, QStringLiteral("fraLimityMain"))->isHidden());
+  EXPECT_FALSE(Kontrolka(&f, QStringLiteral("imgLimit(0)"))->isHidden());
+  EXPECT_TRUE(Kontrolka<QLabel>(&f, QStringLiteral("lblMainLimit"))->text().endsWith(FormatKwoty(0)));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblBZ"))->text(), FormatKwoty(1234467.88));
   EXPECT_TRUE(FormatKwoty(1234467.88).contains(QStringLiteral("467")));
 
   // A kind: no limit panel; pubKonto.id takes the kind's number.
   tvw->setCurrentItem(Wezel(tvw, QStringLiteral("r2")));
-  EXPECT_TRUE(W(&f, QStringLiteral("fraLimityMain"))->isHidden());
+  EXPECT_TRUE(Kontrolka(&f, QStringLiteral("fraLimityMain"))->isHidden());
   EXPECT_EQ(sesja.pubKonto.id, 2);
   EXPECT_EQ(sesja.pubWezelKont, QStringLiteral("r2"));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblPoczatek"))->text(),
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblPoczatek"))->text(),
             FormatKwoty(0));  // "all": nothing before
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblBO"))->text(), FormatKwoty(1234517.88));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblBZ"))->text(), FormatKwoty(1234457.88));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblProcent"))->text(),
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblBO"))->text(), FormatKwoty(1234517.88));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblBZ"))->text(), FormatKwoty(1234457.88));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblProcent"))->text(),
             FormatKwoty(100) + QStringLiteral(" %"));
 
   // The month of the working date: ING's opening balance and the transfer inside the kind fall
   // into it, mBank's opening balance before it.
-  W<QPushButton>(&f, QStringLiteral("cmdFiltr(3)"))->click();
+  Kontrolka<QPushButton>(&f, QStringLiteral("cmdFiltr(3)"))->click();
   EXPECT_EQ(sesja.pubFiltrCzasowy.rodzaj, 3);
   // Beside the balance before the period stands its caption, not the period's name.
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblKiedy"))->text(),
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblKiedy"))->text(),
             Napis(QStringLiteral("frmPrzegladKont35")));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblOkres"))->text(),
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblOkres"))->text(),
             FiltrCzasowy(sesja.pubFiltrCzasowy).opisDlugi);
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblPoczatek"))->text(), FormatKwoty(-50));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblBO"))->text(), FormatKwoty(1234517.88));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblWydatki"))->text(), FormatKwoty(60));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblWewnetrznePrzychody"))->text(), FormatKwoty(100));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblWewnetrzneWydatki"))->text(), FormatKwoty(100));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblZmiana"))->text(), FormatKwoty(1234507.88));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblPoczatek"))->text(), FormatKwoty(-50));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblBO"))->text(), FormatKwoty(1234517.88));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblWydatki"))->text(), FormatKwoty(60));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblWewnetrznePrzychody"))->text(), FormatKwoty(100));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblWewnetrzneWydatki"))->text(), FormatKwoty(100));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblZmiana"))->text(), FormatKwoty(1234507.88));
 
   // A kind without accounts reads zero everywhere.
   tvw->setCurrentItem(Wezel(tvw, QStringLiteral("r4")));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblBZ"))->text(), FormatKwoty(0));
-  EXPECT_EQ(W<QLabel>(&f, QStringLiteral("lblProcent"))->text(),
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblBZ"))->text(), FormatKwoty(0));
+  EXPECT_EQ(Kontrolka<QLabel>(&f, QStringLiteral("lblProcent"))->text(),
             FormatKwoty(0) + QStringLiteral(" %"));
 
   // The details close and open again; the state is the session's.
-  auto* szczegoly = W<QPushButton>(&f, QStringLiteral("cmdSzczegoly"));
+  auto* szczegoly = Kontrolka<QPushButton>(&f, QStringLiteral("cmdSzczegoly"));
   EXPECT_EQ(szczegoly->text(), QStringLiteral("<<  ") + Napis(QStringLiteral("frmPrzegladKont69")));
   const int szeroki = f.width();
   szczegoly->click();
   EXPECT_EQ(sesja.pubSzczegoly, 0);
-  EXPECT_TRUE(W(&f, QStringLiteral("frmSzczegoly"))->isHidden());
+  EXPECT_TRUE(Kontrolka(&f, QStringLiteral("frmSzczegoly"))->isHidden());
   EXPECT_EQ(szczegoly->text(), Napis(QStringLiteral("frmPrzegladKont70")) + QStringLiteral(" >>"));
   EXPECT_LT(f.width(), szeroki);
   szczegoly->click();
   EXPECT_EQ(sesja.pubSzczegoly, 1);
-  EXPECT_FALSE(W(&f, QStringLiteral("frmSzczegoly"))->isHidden());
+  EXPECT_FALSE(Kontrolka(&f, QStringLiteral("frmSzczegoly"))->isHidden());
 
   // The context menu follows the node under it.
   tvw->setCurrentItem(Wezel(tvw, QStringLiteral("q%1").arg(k.portfel)));
@@ -206,10 +190,10 @@ TEST(PrzegladKont, PickerProtocol) {
   {
     frmPrzegladKont f;
     f.show();
-    auto* tvw = W<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
-    auto* wybierz = W<QPushButton>(&f, QStringLiteral("cmdWybierz"));
+    auto* tvw = Kontrolka<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
+    auto* wybierz = Kontrolka<QPushButton>(&f, QStringLiteral("cmdWybierz"));
     EXPECT_EQ(wybierz->text(), Napis(QStringLiteral("frmPrzegladKont78")));
-    EXPECT_TRUE(W(&f, QStringLiteral("frmSzczegoly"))->isHidden());
+    EXPECT_TRUE(Kontrolka(&f, QStringLiteral("frmSzczegoly"))->isHidden());
 
     tvw->collapseAll();
     tvw->setCurrentItem(tvw->topLevelItem(0));
@@ -225,7 +209,7 @@ TEST(PrzegladKont, PickerProtocol) {
     ASSERT_EQ(m.host.pokazane.size(), 1u);
     EXPECT_EQ(m.host.pokazane[0].tekst, Napis(QStringLiteral("frmPrzegladKont76")));
 
-    W<QPushButton>(&f, QStringLiteral("cmdAnuluj"))->click();
+    Kontrolka<QPushButton>(&f, QStringLiteral("cmdAnuluj"))->click();
     EXPECT_FALSE(f.isVisible());
     EXPECT_EQ(f.result(), int(QDialog::Rejected));
     EXPECT_EQ(sesja.pubKonto.id, k.portfel);
@@ -236,7 +220,7 @@ TEST(PrzegladKont, PickerProtocol) {
   {
     frmPrzegladKont f;
     f.show();
-    auto* tvw = W<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
+    auto* tvw = Kontrolka<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
     tvw->setCurrentItem(Wezel(tvw, QStringLiteral("q%1").arg(k.kredyt)));
     Klawisz(&f, Qt::Key_Escape);
     EXPECT_FALSE(f.isVisible());
@@ -245,7 +229,7 @@ TEST(PrzegladKont, PickerProtocol) {
   {
     frmPrzegladKont f;
     f.show();
-    auto* tvw = W<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
+    auto* tvw = Kontrolka<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
     tvw->setCurrentItem(Wezel(tvw, QStringLiteral("q%1").arg(k.ing)));
     Klawisz(tvw, Qt::Key_Return);
     EXPECT_FALSE(f.isVisible());
@@ -267,9 +251,9 @@ TEST(PrzegladKont, IncrementalSearchOnTheTree) {
   sesja.pubKonto.id = 0;
   frmPrzegladKont f;
   f.show();
-  auto* tvw = W<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
-  auto* klucz = W<QLineEdit>(&f, QStringLiteral("txtKlucz"));
-  auto* nastepny = W<QPushButton>(&f, QStringLiteral("cmdNastepny"));
+  auto* tvw = Kontrolka<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
+  auto* klucz = Kontrolka<QLineEdit>(&f, QStringLiteral("txtKlucz"));
+  auto* nastepny = Kontrolka<QPushButton>(&f, QStringLiteral("cmdNastepny"));
   EXPECT_FALSE(nastepny->isVisible());
 
   Pisz(klucz, QStringLiteral("K"));
@@ -308,17 +292,17 @@ TEST(PrzegladKont, NewAndDeleteFromTheBrowser) {
   sesja.pubFiltrCzasowy.pozycja = QDate(2026, 2, 3);
   frmPrzegladKont f;
   f.show();
-  auto* tvw = W<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
+  auto* tvw = Kontrolka<QTreeWidget>(&f, QStringLiteral("tvwKonta"));
 
   tvw->setCurrentItem(Wezel(tvw, QStringLiteral("r6")));
   bool edytor = false;
   NaModalnym([&](QWidget* d) {
     edytor = d->objectName() == QLatin1String("frmEdycjaKonta");
-    EXPECT_TRUE(W<QRadioButton>(d, QStringLiteral("optRodzaj(6)"))->isChecked());
-    W<QLineEdit>(d, QStringLiteral("txtNazwa"))->setText(QStringLiteral("Złoto"));
-    W<QPushButton>(d, QStringLiteral("cmdOK"))->click();
+    EXPECT_TRUE(Kontrolka<QRadioButton>(d, QStringLiteral("optRodzaj(6)"))->isChecked());
+    Kontrolka<QLineEdit>(d, QStringLiteral("txtNazwa"))->setText(QStringLiteral("Złoto"));
+    Kontrolka<QPushButton>(d, QStringLiteral("cmdOK"))->click();
   });
-  W<QAbstractButton>(&f, QStringLiteral("cmdMenu(0)"))->click();
+  Kontrolka<QAbstractButton>(&f, QStringLiteral("cmdMenu(0)"))->click();
   EXPECT_TRUE(edytor);
   ASSERT_NE(tvw->currentItem(), nullptr);
   EXPECT_EQ(tvw->currentItem()->text(0), QStringLiteral("Złoto"));
@@ -334,7 +318,7 @@ TEST(PrzegladKont, NewAndDeleteFromTheBrowser) {
   EXPECT_EQ(m.host.pokazane[0].przyciski, int(MsgOK));
   EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM konta WHERE id=%1").arg(k.portfel)), 1);
 
-  W<QLineEdit>(&f, QStringLiteral("txtKlucz"))->setText(QStringLiteral("Skarb"));
+  Kontrolka<QLineEdit>(&f, QStringLiteral("txtKlucz"))->setText(QStringLiteral("Skarb"));
   EXPECT_EQ(Klucz(tvw), QStringLiteral("q%1").arg(k.skarbonka));
   m.host.odpowiedzi = {WynikTak};
   Klawisz(tvw, Qt::Key_Delete);
@@ -342,7 +326,7 @@ TEST(PrzegladKont, NewAndDeleteFromTheBrowser) {
   EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM szablony")), 0);
   EXPECT_EQ(Wezel(tvw, QStringLiteral("r6"))->childCount(), 1);
   EXPECT_EQ(Klucz(tvw), QStringLiteral("r6"));  // the kind it stood under
-  EXPECT_TRUE(W<QLineEdit>(&f, QStringLiteral("txtKlucz"))->text().isEmpty());
+  EXPECT_TRUE(Kontrolka<QLineEdit>(&f, QStringLiteral("txtKlucz"))->text().isEmpty());
 }
 
 // The editor: the kind decides which amount fields are usable, a value in a field switched off
@@ -358,30 +342,30 @@ TEST(EdycjaKonta, KindsFieldsSaveAndFailure) {
     frmEdycjaKonta e;
     e.show();
     EXPECT_EQ(e.windowTitle(), Napis(QStringLiteral("frmEdycjaKonta30")));
-    EXPECT_TRUE(W<QRadioButton>(&e, QStringLiteral("optRodzaj(3)"))->isChecked());
-    EXPECT_FALSE(W(&e, QStringLiteral("txtWinien"))->isEnabled());
-    EXPECT_FALSE(W(&e, QStringLiteral("lblWinien"))->isEnabled());
-    EXPECT_FALSE(W(&e, QStringLiteral("cmdKalkulatorWn"))->isEnabled());
-    EXPECT_TRUE(W(&e, QStringLiteral("txtMa"))->isEnabled());
-    EXPECT_EQ(W<QLineEdit>(&e, QStringLiteral("txtMa"))->text(), QStringLiteral("0"));
+    EXPECT_TRUE(Kontrolka<QRadioButton>(&e, QStringLiteral("optRodzaj(3)"))->isChecked());
+    EXPECT_FALSE(Kontrolka(&e, QStringLiteral("txtWinien"))->isEnabled());
+    EXPECT_FALSE(Kontrolka(&e, QStringLiteral("lblWinien"))->isEnabled());
+    EXPECT_FALSE(Kontrolka(&e, QStringLiteral("cmdKalkulatorWn"))->isEnabled());
+    EXPECT_TRUE(Kontrolka(&e, QStringLiteral("txtMa"))->isEnabled());
+    EXPECT_EQ(Kontrolka<QLineEdit>(&e, QStringLiteral("txtMa"))->text(), QStringLiteral("0"));
 
-    W<QRadioButton>(&e, QStringLiteral("optRodzaj(2)"))->click();
-    W<QLineEdit>(&e, QStringLiteral("txtLimit"))->setText(QStringLiteral("250.00"));
-    W<QRadioButton>(&e, QStringLiteral("optRodzaj(1)"))->click();
-    EXPECT_FALSE(W(&e, QStringLiteral("txtLimit"))->isEnabled());
-    EXPECT_FALSE(W(&e, QStringLiteral("txtMa"))->isEnabled());
-    EXPECT_TRUE(W(&e, QStringLiteral("txtWinien"))->isEnabled());
-    EXPECT_EQ(W<QLineEdit>(&e, QStringLiteral("txtLimit"))->text(), QStringLiteral("250.00"));
+    Kontrolka<QRadioButton>(&e, QStringLiteral("optRodzaj(2)"))->click();
+    Kontrolka<QLineEdit>(&e, QStringLiteral("txtLimit"))->setText(QStringLiteral("250.00"));
+    Kontrolka<QRadioButton>(&e, QStringLiteral("optRodzaj(1)"))->click();
+    EXPECT_FALSE(Kontrolka(&e, QStringLiteral("txtLimit"))->isEnabled());
+    EXPECT_FALSE(Kontrolka(&e, QStringLiteral("txtMa"))->isEnabled());
+    EXPECT_TRUE(Kontrolka(&e, QStringLiteral("txtWinien"))->isEnabled());
+    EXPECT_EQ(Kontrolka<QLineEdit>(&e, QStringLiteral("txtLimit"))->text(), QStringLiteral("250.00"));
 
-    W<QPushButton>(&e, QStringLiteral("cmdOK"))->click();  // no name yet
+    Kontrolka<QPushButton>(&e, QStringLiteral("cmdOK"))->click();  // no name yet
     EXPECT_TRUE(e.isVisible());
     ASSERT_EQ(m.host.pokazane.size(), 1u);
     EXPECT_EQ(m.host.pokazane[0].tytul,
               QLatin1Char(' ') + Napis(QStringLiteral("frmEdycjaKonta26")));
 
-    W<QLineEdit>(&e, QStringLiteral("txtNazwa"))->setText(QStringLiteral("Gotówka"));
-    W<QLineEdit>(&e, QStringLiteral("txtWinien"))->setText(QStringLiteral("12.30"));
-    W<QPushButton>(&e, QStringLiteral("cmdOK"))->click();
+    Kontrolka<QLineEdit>(&e, QStringLiteral("txtNazwa"))->setText(QStringLiteral("Gotówka"));
+    Kontrolka<QLineEdit>(&e, QStringLiteral("txtWinien"))->setText(QStringLiteral("12.30"));
+    Kontrolka<QPushButton>(&e, QStringLiteral("cmdOK"))->click();
     EXPECT_EQ(e.result(), int(QDialog::Accepted));
     id = sesja.pubKonto.id;
   }
@@ -404,16 +388,16 @@ TEST(EdycjaKonta, KindsFieldsSaveAndFailure) {
   frmEdycjaKonta e;
   e.show();
   EXPECT_EQ(e.windowTitle(), Napis(QStringLiteral("frmEdycjaKonta31")));
-  EXPECT_TRUE(W<QRadioButton>(&e, QStringLiteral("optRodzaj(1)"))->isChecked());
-  EXPECT_EQ(W<QLineEdit>(&e, QStringLiteral("txtLimit"))->text(), FormatKwotyEdycja(250));
+  EXPECT_TRUE(Kontrolka<QRadioButton>(&e, QStringLiteral("optRodzaj(1)"))->isChecked());
+  EXPECT_EQ(Kontrolka<QLineEdit>(&e, QStringLiteral("txtLimit"))->text(), FormatKwotyEdycja(250));
   EXPECT_TRUE(
-      W<QLabel>(&e, QStringLiteral("lblDataUtworzenia"))->text().contains(QStringLiteral("2026")));
-  W<QLineEdit>(&e, QStringLiteral("txtNazwa"))->setText(QStringLiteral("Nowa nazwa"));
-  W<QPushButton>(&e, QStringLiteral("cmdOK"))->click();
+      Kontrolka<QLabel>(&e, QStringLiteral("lblDataUtworzenia"))->text().contains(QStringLiteral("2026")));
+  Kontrolka<QLineEdit>(&e, QStringLiteral("txtNazwa"))->setText(QStringLiteral("Nowa nazwa"));
+  Kontrolka<QPushButton>(&e, QStringLiteral("cmdOK"))->click();
   EXPECT_TRUE(e.isVisible());
   EXPECT_NE(e.result(), int(QDialog::Accepted));
   EXPECT_TRUE(m.host.pokazane.back().tekst.startsWith(Napis(QStringLiteral("frmEdycjaKonta33"))));
-  EXPECT_EQ(W<QLineEdit>(&e, QStringLiteral("txtNazwa"))->text(), QStringLiteral("Nowa nazwa"));
+  EXPECT_EQ(Kontrolka<QLineEdit>(&e, QStringLiteral("txtNazwa"))->text(), QStringLiteral("Nowa nazwa"));
 }
 
 // The filter buttons: exactly one pressed, the kind in the session, captions by OpisOkresu,
@@ -427,30 +411,30 @@ TEST(PrzyciskiFiltra, OnePressedSharedKindAndTheRange) {
   const auto wcisniete = [&] {
     QList<int> w;
     for (int i = 0; i < 7; ++i)
-      if (W<QPushButton>(&p, QStringLiteral("cmdFiltr(%1)").arg(i))->isChecked()) w << i;
+      if (Kontrolka<QPushButton>(&p, QStringLiteral("cmdFiltr(%1)").arg(i))->isChecked()) w << i;
     return w;
   };
   EXPECT_EQ(wcisniete(), QList<int>{2});
   for (int i : {5, 0, 5, 1}) {
-    W<QPushButton>(&p, QStringLiteral("cmdFiltr(%1)").arg(i))->click();
+    Kontrolka<QPushButton>(&p, QStringLiteral("cmdFiltr(%1)").arg(i))->click();
     EXPECT_EQ(wcisniete(), QList<int>{i});
     EXPECT_EQ(sesja.pubFiltrCzasowy.rodzaj, i);
   }
   EXPECT_EQ(odswiezenia, 4);
   for (int i = 0; i < 7; ++i)
-    EXPECT_EQ(W<QPushButton>(&p, QStringLiteral("cmdFiltr(%1)").arg(i))->text(), OpisOkresu(i));
+    EXPECT_EQ(Kontrolka<QPushButton>(&p, QStringLiteral("cmdFiltr(%1)").arg(i))->text(), OpisOkresu(i));
 
   NaModalnym([](QWidget* d) {
     EXPECT_EQ(d->objectName(), QStringLiteral("frmZakresDat"));
-    W<QPushButton>(d, QStringLiteral("cmdOK"))->click();
+    Kontrolka<QPushButton>(d, QStringLiteral("cmdOK"))->click();
   });
   sesja.pubFiltrCzasowy.od = QDate(2026, 3, 1);
   sesja.pubFiltrCzasowy.do_ = QDate(2026, 3, 31);
-  W<QPushButton>(&p, QStringLiteral("cmdZakres"))->click();
+  Kontrolka<QPushButton>(&p, QStringLiteral("cmdZakres"))->click();
   EXPECT_EQ(sesja.pubFiltrCzasowy.rodzaj, 6);
   EXPECT_EQ(wcisniete(), QList<int>{6});
   EXPECT_EQ(odswiezenia, 5);
-  EXPECT_TRUE(W<QPushButton>(&p, QStringLiteral("cmdFiltr(6)"))
+  EXPECT_TRUE(Kontrolka<QPushButton>(&p, QStringLiteral("cmdFiltr(6)"))
                   ->text()
                   .contains(FormatDatyOkresu(QDate(2026, 3, 31))));
 }

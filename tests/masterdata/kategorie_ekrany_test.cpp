@@ -17,6 +17,8 @@
 
 #include "calculator/PoleKwoty_gui.h"
 #include "common/magazyn_testowy.h"
+#include "ekrany_pomoc.h"
+#include "kategorie_pomoc.h"
 #include "masterdata/frmEdycjaKategorii.h"
 #include "masterdata/frmPrzegladKategorii.h"
 #include "masterdata/kategorie.h"
@@ -25,13 +27,6 @@
 #include "store/session.h"
 
 namespace {
-
-template <class T = QWidget>
-T* Kontrolka(const QObject* o, const QString& nazwa) {
-  T* w = o->findChild<T*>(nazwa);
-  EXPECT_NE(w, nullptr) << nazwa.toStdString();
-  return w;
-}
 
 QTreeWidgetItem* WezelDrzewa(QTreeWidget* t, const QString& klucz) {
   for (QTreeWidgetItemIterator it(t); *it; ++it)
@@ -48,24 +43,6 @@ void Klawisz(QWidget* w, int klawisz) {
   QApplication::sendEvent(w, &e);
 }
 
-// Acts on the modal dialog that the next step opens, then makes sure it is closed.
-void NaModalnym(std::function<void(QWidget*)> akcja) {
-  QTimer::singleShot(0, [akcja] {
-    QWidget* d = QApplication::activeModalWidget();
-    ASSERT_NE(d, nullptr);
-    akcja(d);
-    if (d->isVisible()) d->close();
-  });
-}
-
-void Kat(const QString& id, int rodzaj, const QString& nazwa) {
-  const QString rodzic = id.size() == 1 ? QStringLiteral("-") : id.left(id.size() - 1);
-  ASSERT_TRUE(pubBaza().Wykonaj(
-      QStringLiteral("INSERT INTO kategorie (identyfikator,kategoria,nazwa,opis,rodzaj) "
-                     "VALUES (%1,%2,%3,'',%4)")
-          .arg(SqlTekst(id), SqlTekst(rodzic), SqlTekst(nazwa), QString::number(rodzaj))));
-}
-
 void Wpis(const QString& kategoria, double kwota,
           const QString& data = QStringLiteral("2026-11-10")) {
   ASSERT_TRUE(pubBaza().Wykonaj(
@@ -76,12 +53,12 @@ void Wpis(const QString& kategoria, double kwota,
 
 // Expense tree: Dom (a) > Czynsz (aa), Media (ab) > Prąd (aba); Auto (b) with entries, leaf.
 void Drzewo() {
-  Kat(QStringLiteral("a"), 2, QStringLiteral("Dom"));
-  Kat(QStringLiteral("aa"), 2, QStringLiteral("Czynsz"));
-  Kat(QStringLiteral("ab"), 2, QStringLiteral("Media"));
-  Kat(QStringLiteral("aba"), 2, QStringLiteral("Prąd"));
-  Kat(QStringLiteral("b"), 2, QStringLiteral("Auto"));
-  Kat(QStringLiteral("a"), 1, QStringLiteral("Pensja"));
+  Kategoria(QStringLiteral("a"), 2, QStringLiteral("Dom"));
+  Kategoria(QStringLiteral("aa"), 2, QStringLiteral("Czynsz"));
+  Kategoria(QStringLiteral("ab"), 2, QStringLiteral("Media"));
+  Kategoria(QStringLiteral("aba"), 2, QStringLiteral("Prąd"));
+  Kategoria(QStringLiteral("b"), 2, QStringLiteral("Auto"));
+  Kategoria(QStringLiteral("a"), 1, QStringLiteral("Pensja"));
   Wpis(QStringLiteral("aa"), 600);
   Wpis(QStringLiteral("aba"), 200);
   Wpis(QStringLiteral("aba"), 999, QStringLiteral("2026-10-10"));
@@ -261,7 +238,7 @@ TEST(KategorieEkrany, MaintenanceThroughMenuKeysAndEditor) {
   EXPECT_EQ(m.Licz(QStringLiteral("SELECT COUNT(*) FROM transakcje WHERE kategoria='ba'")), 1);
 
   // Level 4 offers no subcategory; its "new" item names the parent.
-  Kat(QStringLiteral("abaa"), 2, QStringLiteral("Licznik"));
+  Kategoria(QStringLiteral("abaa"), 2, QStringLiteral("Licznik"));
   sesja.pubKategoria.identyfikator = QStringLiteral("abaa");
   f.WypelnijDrzewo();
   EXPECT_FALSE(mnuPod->isEnabled());

@@ -6,22 +6,12 @@
 #include <gtest/gtest.h>
 
 #include "common/magazyn_testowy.h"
+#include "kategorie_pomoc.h"
 #include "store/baza.h"
 #include "store/napis.h"
 #include "store/session.h"
 
 namespace {
-
-void Kategoria(const QString& id, int rodzaj, const QString& nazwa, double limit = 0) {
-  const QString rodzic = id.size() == 1 ? QStringLiteral("-") : id.left(id.size() - 1);
-  ASSERT_TRUE(pubBaza().Wykonaj(
-      QStringLiteral("INSERT INTO kategorie (identyfikator,kategoria,nazwa,opis,rodzaj) VALUES "
-                     "(%1,%2,%3,'',%4)")
-          .arg(SqlTekst(id), SqlTekst(rodzic), SqlTekst(nazwa), QString::number(rodzaj))));
-  if (limit != 0) {
-    ASSERT_TRUE(UstawLimit(id, rodzaj, limit));
-  }
-}
 
 void Wpis(const QString& tabela, const QString& kategoria, int rodzaj, double kwota,
           const QString& data = QStringLiteral("2026-11-05")) {

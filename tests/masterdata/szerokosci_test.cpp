@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "common/magazyn_testowy.h"
+#include "ekrany_pomoc.h"
 #include "common/widocznosc.h"
 #include "konta_pomoc.h"
 #include "masterdata/frmEdycjaKategorii.h"
@@ -29,13 +30,6 @@ namespace {
 const QString kW = QString(16, QLatin1Char('W'));
 const QString kZ = QString(16, QChar(u'Ż'));
 const QString kM = QStringLiteral("MWMWMWMWŚĆŻŹŁÓĘĄ");
-
-template <class T = QWidget>
-T* Kontrolka(const QObject* o, const char* nazwa) {
-  T* w = o->findChild<T*>(QLatin1String(nazwa));
-  EXPECT_NE(w, nullptr) << nazwa;
-  return w;
-}
 
 void Zapisz(const QString& sql) { ASSERT_TRUE(pubBaza().Wykonaj(sql).ok) << sql.toStdString(); }
 

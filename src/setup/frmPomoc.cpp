@@ -60,7 +60,7 @@ frmPomoc::frmPomoc(QWidget* rodzic) : QDialog(rodzic) {
   podzial->addWidget(lewa);
   podzial->addWidget(txtStrona_);
   podzial->setStretchFactor(1, 1);
-  podzial->setSizes({220, 520});
+  podzial->setSizes({300, 560});
 
   auto* cmdZamknij = new QPushButton(napis(5), this);
   cmdZamknij->setObjectName(QStringLiteral("cmdZamknij"));
@@ -75,7 +75,7 @@ frmPomoc::frmPomoc(QWidget* rodzic) : QDialog(rodzic) {
 
   Szukaj();
   PokazStrone(StronaOkna(zrodlo));
-  resize(780, 540);
+  resize(900, 560);
 }
 
 void frmPomoc::Szukaj() {

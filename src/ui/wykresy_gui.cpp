@@ -5,6 +5,7 @@
 #include <QBarSet>
 #include <QChart>
 #include <QChartView>
+#include <QFontMetrics>
 #include <QPieSeries>
 #include <QPieSlice>
 #include <QCursor>
@@ -94,6 +95,11 @@ void kolowy(QChart* chart, const DaneWykresu& d) {
   seria->setPieSize(0.9);
   // The six names of the kinds of account beside a small pie: a smaller letter cuts fewer.
   chart->legend()->setFont(mniejsza(chart->legend()->font()));
+  // The legend would take no more than a third of the chart and cut the names; the pie gives way.
+  const QFontMetrics miara(chart->legend()->font());
+  int szerokosc = 0;
+  for (const QString& e : d.etykietyWierszy) szerokosc = std::max(szerokosc, miara.horizontalAdvance(e));
+  chart->legend()->setMinimumWidth(szerokosc + 4 * miara.height() + 10);
   chart->addSeries(seria);
 }
 }  // namespace

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QTemporaryDir>
+#include <QTranslator>
 #include <cstdio>
 
 #include "budowa.h"
@@ -90,6 +92,12 @@ int main(int argc, char** argv) {
   WlaczPomocF1();
   HostOkienkowy host;
   UstawHostKomunikatow(&host);
+  // Qt's own dialogs (files, printing) speak the edition's language too, when the system has
+  // Qt's Polish texts.
+  QTranslator tekstyQt;
+  if ((p.jezyk ? p.jezyk : JezykSystemu()) == 1 &&
+      tekstyQt.load(QStringLiteral("qtbase_pl"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&tekstyQt);
 
   int kod = 0;
   if (!p.galeria.isEmpty()) {

@@ -5,18 +5,9 @@
 #include "store/napis.h"
 #include "store/plik.h"
 #include "store/session.h"
+#include "store/tekst.h"
 
 namespace {
-QByteArray komorka(const QString& t) {
-  const bool ujmij = t.contains(QLatin1Char(';')) || t.contains(QLatin1Char('"')) ||
-                     t.contains(QLatin1Char('\n')) || t.contains(QLatin1Char('\r')) ||
-                     t != t.trimmed();
-  if (!ujmij) return t.toUtf8();
-  QString w = t;
-  w.replace(QLatin1Char('"'), QLatin1String("\"\""));
-  return '"' + w.toUtf8() + '"';
-}
-
 QString kwota(qint64 grosze, QChar znak) {
   const qint64 a = std::llabs(grosze);
   return QStringLiteral("%1%2%3%4")
@@ -38,7 +29,7 @@ QByteArray EksportCsv(const std::vector<WierszEksportu>& wiersze) {
   const QString naglowek[] = {Napis(QStringLiteral("eksport1")), Napis(QStringLiteral("eksport2")),
                               Napis(QStringLiteral("eksport3")), Napis(QStringLiteral("eksport4")),
                               Napis(QStringLiteral("eksport5")), Napis(QStringLiteral("eksport6"))};
-  for (int i = 0; i < 6; ++i) out += (i ? ";" : "") + komorka(naglowek[i]);
+  for (int i = 0; i < 6; ++i) out += (i ? ";" : "") + KomorkaCsv(naglowek[i]);
   out += "\r\n";
   const QChar znak = sesja.pubJezyk == 2 ? QLatin1Char('.') : QLatin1Char(',');
   for (const WierszEksportu& w : wiersze) {
@@ -48,7 +39,7 @@ QByteArray EksportCsv(const std::vector<WierszEksportu>& wiersze) {
                             w.kategoria,
                             w.kontrahent,
                             w.konto};
-    for (int i = 0; i < 6; ++i) out += (i ? ";" : "") + komorka(pola[i]);
+    for (int i = 0; i < 6; ++i) out += (i ? ";" : "") + KomorkaCsv(pola[i]);
     out += "\r\n";
   }
   return out;

@@ -10,8 +10,7 @@
 #include <numeric>
 
 #include "store/baza.h"
-#include "store/dziennik.h"
-#include "store/jet.h"
+#include "store/odczyt.h"
 #include "store/porzadek.h"
 #include "store/session.h"
 #include "store/tekst.h"
@@ -161,15 +160,9 @@ qint32 DanePrzegladu::zapamietaj(const char* tekst, int dlugosc) {
 bool DanePrzegladu::Wczytaj(const QString& jetSql, const std::function<void(qint64)>& postep) {
   Wyczysc();
   if (!OtworzBaze()) return false;
-  sqlite3* db = pubBaza().Uchwyt();
-  const QByteArray sql = TlumaczJet(jetSql).toUtf8();
-  sqlite3_stmt* st = nullptr;
-  if (sqlite3_prepare_v2(db, sql.constData(), int(sql.size()), &st, nullptr) != SQLITE_OK) {
-    ZapiszLog(
-        QStringLiteral("read failed: %1 | %2")
-            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
-    return false;
-  }
+  OdczytJet odczyt(jetSql);
+  if (!odczyt.Ok()) return false;
+  sqlite3_stmt* st = odczyt.Polecenie();
   const bool transfery = rodzaj_ == RodzajPrzegladu::Transfery;
   const int kId = kolumna(st, "id"), kData = kolumna(st, "data");
   const int k1 = kolumna(st, transfery ? "kwota" : "przychod");
@@ -177,8 +170,7 @@ bool DanePrzegladu::Wczytaj(const QString& jetSql, const std::function<void(qint
   const int kTekst[4] = {
       kolumna(st, transfery ? "zkonta" : "kategoria"), kolumna(st, transfery ? "nakonto" : "konto"),
       kolumna(st, transfery ? "opis" : "kontrahent"), transfery ? -1 : kolumna(st, "opis")};
-  int kod;
-  while ((kod = sqlite3_step(st)) == SQLITE_ROW) {
+  while (odczyt.Krok()) {
     WierszPrzegladu w;
     w.id = kId >= 0 ? sqlite3_column_int64(st, kId) : 0;
     if (kData >= 0 && sqlite3_column_type(st, kData) != SQLITE_NULL)
@@ -196,14 +188,8 @@ bool DanePrzegladu::Wczytaj(const QString& jetSql, const std::function<void(qint
     wiersze_.push_back(w);
     if (postep && (wiersze_.size() & 4095) == 0) postep(qint64(wiersze_.size()));
   }
-  const bool ok = kod == SQLITE_DONE;
-  if (!ok) {
-    ZapiszLog(
-        QStringLiteral("read failed: %1 | %2")
-            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
-    Wyczysc();
-  }
-  sqlite3_finalize(st);
+  const bool ok = odczyt.Caly();
+  if (!ok) Wyczysc();
   szuflady_.clear();
   szuflady_.shrink_to_fit();
   if (postep) postep(qint64(wiersze_.size()));

@@ -5,10 +5,9 @@
 #include "ledger/transakcje.h"
 #include "store/MsgBoxModule.h"
 #include "store/baza.h"
-#include "store/dziennik.h"
 #include "store/filtr.h"
-#include "store/jet.h"
 #include "store/napis.h"
+#include "store/odczyt.h"
 
 namespace {
 
@@ -70,28 +69,14 @@ Szablon szablonZ(const Rekordy& rs, qint64 id, int rodzaj, const KolumnySzablonu
 template <class F>
 void przejdzListe(const QString& jetSql, F&& wiersz) {
   if (!OtworzBaze()) return;
-  sqlite3* db = pubBaza().Uchwyt();
-  const QByteArray sql = TlumaczJet(jetSql).toUtf8();
-  sqlite3_stmt* st = nullptr;
-  if (sqlite3_prepare_v2(db, sql.constData(), int(sql.size()), &st, nullptr) != SQLITE_OK) {
-    ZapiszLog(
-        QStringLiteral("read failed: %1 | %2")
-            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
-    sqlite3_finalize(st);
-    return;
-  }
+  OdczytJet odczyt(jetSql);
+  sqlite3_stmt* st = odczyt.Polecenie();
   const auto tekst = [st](int k) {
     return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, k)),
                              sqlite3_column_bytes(st, k));
   };
   const auto liczba = [st](int k) { return sqlite3_column_int64(st, k); };
-  int kod;
-  while ((kod = sqlite3_step(st)) == SQLITE_ROW) wiersz(tekst, liczba);
-  if (kod != SQLITE_DONE)
-    ZapiszLog(
-        QStringLiteral("read failed: %1 | %2")
-            .arg(BezCytatow(QString::fromUtf8(sqlite3_errmsg(db))), KsztaltZapytania(jetSql)));
-  sqlite3_finalize(st);
+  while (odczyt.Krok()) wiersz(tekst, liczba);
 }
 
 }  // namespace

@@ -80,18 +80,6 @@ void obrazekRtf(QByteArray& out, const QImage& obrazek) {
   out += "}";
 }
 
-// ---- CSV ---------------------------------------------------------------------------------------
-
-QByteArray komorkaCsv(const QString& t) {
-  const bool ujmij = t.contains(QLatin1Char(';')) || t.contains(QLatin1Char('"')) ||
-                     t.contains(QLatin1Char('\n')) || t.contains(QLatin1Char('\r')) ||
-                     t != t.trimmed();
-  if (!ujmij) return t.toUtf8();
-  QString w = t;
-  w.replace(QLatin1Char('"'), QLatin1String("\"\""));
-  return '"' + w.toUtf8() + '"';
-}
-
 }  // namespace
 
 QStringList FiltryZapisu() {
@@ -158,7 +146,7 @@ QByteArray DoCsv(const DokumentRaportu& d) {
   for (const QStringList& wiersz : d.tabela) {
     for (int i = 0; i < wiersz.size(); ++i) {
       if (i) out += ';';
-      out += komorkaCsv(wiersz[i]);
+      out += KomorkaCsv(wiersz[i]);
     }
     out += "\r\n";
   }

@@ -336,3 +336,13 @@ QString NazwaMiesiaca(const QString& tekst) {
   if (!d.isValid()) d = QDate::fromString(t, QStringLiteral("M/d/yyyy"));
   return NazwaMiesiaca(d);
 }
+
+QByteArray KomorkaCsv(const QString& t) {
+  const bool ujmij = t.contains(QLatin1Char(';')) || t.contains(QLatin1Char('"')) ||
+                     t.contains(QLatin1Char('\n')) || t.contains(QLatin1Char('\r')) ||
+                     t != t.trimmed();
+  if (!ujmij) return t.toUtf8();
+  QString w = t;
+  w.replace(QLatin1Char('"'), QLatin1String("\"\""));
+  return '"' + w.toUtf8() + '"';
+}

@@ -2,6 +2,7 @@
 // Amounts, numbers and dates as text: every amount and date reaches the screen, the reports
 // and SQL through these, with the system's decimal mark and month and day names by edition.
 
+#include <QByteArray>
 #include <QDate>
 #include <QString>
 #include <QVariant>
@@ -41,3 +42,7 @@ QString FormatWaluty(QVariant& wartosc);
 QString NazwaMiesiaca(const QString& tekst);
 QString NazwaMiesiaca(int miesiac);
 QString NazwaMiesiaca(const QDate& data);
+
+// A field of a CSV file as a spreadsheet reads it (UTF-8, ";" between fields): quoted, with its
+// quotes doubled, when it holds a separator, a quote, a line break or blanks at either end.
+QByteArray KomorkaCsv(const QString& t);
